@@ -1,0 +1,209 @@
+// How long it takes to read and write dictionary documents, as shares of what Qt's own parsing and text
+// writing of the same documents take in the same run.
+
+#include "bench/GeneratedDictionary.h"
+#include "business/ProcessDictionaryBusiness.h"
+#include "model/TDmEntity.h"
+#include "model/TDmVariable.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// A document to be measured: its text, how many variables it holds, and what it is called in the table.
+struct Document {
+    std::string title;
+    QByteArray text;
+    int variables = 0;
+    double bytesPerVariable = 0;
+};
+
+/// A root above the document's top entities: deleting it frees the tree.
+std::unique_ptr<TDmEntity> treeOf(const QVariantMap &map)
+{
+    auto root = std::make_unique<TDmEntity>();
+    root->setChildren(ProcessDictionaryBusiness().recorrerNodosJsonYCargaEstructuraEntidades(map, 0));
+    return root;
+}
+
+int variablesBelow(const TDmEntity &entity)
+{
+    int count = entity.getVariables()->size();
+    for (const TDmEntity *child : qAsConst(*entity.getChildren()))
+        count += variablesBelow(*child);
+    return count;
+}
+
+QVariantMap mapOf(const QByteArray &text) { return QJsonDocument::fromJson(text).object().toVariantMap(); }
+
+void addDocument(std::vector<Document> &documents, const std::string &title, const QByteArray &text)
+{
+    const QVariantMap map = mapOf(text);
+    const std::size_t before = mallinfo2().uordblks;
+    const std::unique_ptr<TDmEntity> root = treeOf(map);
+    const std::size_t after = mallinfo2().uordblks;
+    const int variables = variablesBelow(*root);
+    documents.push_back({title, text, variables, double(after - before) / variables});
+}
+
+std::vector<Document> allDocuments()
+{
+    std::vector<Document> documents;
+    for (int variables : {1'000, 10'000, 100'000}) {
+        addDocument(documents, "generated, " + std::to_string(variables) + " variables",
+            tessel::bench::generatedDictionary(variables));
+    }
+    // Real dictionaries are not part of the project: whoever has a folder of them names it.
+    const QDir folder(qEnvironmentVariable("TESSEL_BENCH_DATA", QStringLiteral("-")));
+    const QStringList names = folder.exists() ? folder.entryList({QStringLiteral("*.json")}) : QStringList();
+    for (const QString &name : names) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            addDocument(documents, name.toStdString(), file.readAll());
+    }
+    return documents;
+}
+
+/// Makes the allocator join the small pieces that were freed, which it would else put off until the next
+/// large request: freeing the last round's result is no part of this round.
+void settleHeap()
+{
+    void *large = std::malloc(64 * 1024);
+    benchmark::DoNotOptimize(large);
+    std::free(large);
+}
+
+/// Times \a work alone: what it makes is freed while the clock stands. The fastest round is what the table
+/// shows.
+template<typename Work>
+void measure(benchmark::State &state, Work &&work)
+{
+    double best = std::numeric_limits<double>::max();
+    for (auto round : state) {
+        Q_UNUSED(round)
+        settleHeap();
+        const auto start = Clock::now();
+        const auto result = work();
+        benchmark::DoNotOptimize(&result);
+        const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    state.counters["best"] = best;
+}
+
+void parse(benchmark::State &state, const Document &document)
+{
+    measure(state, [&] { return mapOf(document.text); });
+}
+
+void read(benchmark::State &state, const Document &document)
+{
+    const QVariantMap map = mapOf(document.text);
+    measure(state, [&] { return treeOf(map); });
+}
+
+void build(benchmark::State &state, const Document &document)
+{
+    const QVariantMap map =
+        mapOf(document.text); // Kept: its texts are shared with the tree, freeing it leaves holes.
+    const std::unique_ptr<TDmEntity> root = treeOf(map);
+    measure(state, [&] {
+        QJsonObject out;
+        ProcessDictionaryBusiness().getStructuraTreeRootToJson(root.get(), &out);
+        return out;
+    });
+}
+
+void write(benchmark::State &state, const Document &document)
+{
+    const QVariantMap map = mapOf(document.text);
+    const std::unique_ptr<TDmEntity> root = treeOf(map);
+    QJsonObject out;
+    ProcessDictionaryBusiness().getStructuraTreeRootToJson(root.get(), &out);
+    measure(state, [&] { return QJsonDocument(out).toJson(); });
+}
+
+/// Keeps the fastest round of each measurement for the table at the end.
+class Collector : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type != Run::RT_Iteration)
+                continue;
+            const double time = run.counters.at("best").value;
+            const auto known = seconds.emplace(run.run_name.function_name, time).first;
+            known->second = std::min(known->second, time);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    std::map<std::string, double> seconds;
+};
+
+void printTable(const std::vector<Document> &documents, std::map<std::string, double> &seconds)
+{
+    const auto of = [&](const char *what, const Document &d) { return seconds[what + (" " + d.title)]; };
+    std::printf("\n%-32s %9s %10s %12s %12s %12s %12s\n", "document", "variables", "read/parse", "build/text",
+        "read ns/var", "build ns/var", "bytes/var");
+    for (const Document &d : documents) {
+        std::printf("%-32s %9d %10.3f %12.3f %12.0f %12.0f %12.0f\n", d.title.c_str(), d.variables,
+            of("read", d) / of("parse", d), of("build", d) / of("text", d), of("read", d) * 1e9 / d.variables,
+            of("build", d) * 1e9 / d.variables, d.bytesPerVariable);
+    }
+    const Document &small = documents[0];
+    const Document &large = documents[2];
+    const auto growth = [&](const char *what) {
+        return of(what, large) / large.variables / (of(what, small) / small.variables);
+    };
+    std::printf("growth per variable from %d to %d: read %.2f, build %.2f, memory %.2f\n", small.variables,
+        large.variables, growth("read"), growth("build"), large.bytesPerVariable / small.bytesPerVariable);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // What a round frees stays with the process: otherwise each round pays anew for the system's pages, and
+    // more for large documents than for small ones.
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    const std::vector<Document> documents = allDocuments();
+    for (const Document &document : documents) {
+        const auto add = [&document](const char *what, void (*work)(benchmark::State &, const Document &)) {
+            benchmark::RegisterBenchmark((what + (" " + document.title)).c_str(), work, document)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond)
+                ->Repetitions(3);
+        };
+        add("parse", parse);
+        add("read", read);
+        add("build", build);
+        add("text", write);
+    }
+    benchmark::Initialize(&argc, argv);
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    printTable(documents, collector.seconds);
+    return 0;
+}
