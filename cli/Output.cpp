@@ -1,0 +1,91 @@
+#include "cli/Output.h"
+
+#include <QCoreApplication>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace tessel::cli {
+namespace {
+
+/// Why standard output did not take something; 0 while it did.
+int refusal = 0;
+
+void write(FILE *to, const QByteArray &bytes)
+{
+    const bool written =
+        std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), to) == std::size_t(bytes.size());
+    if (!written && to == stdout && refusal == 0)
+        refusal = errno;
+}
+
+/// What a terminal acts upon instead of showing it.
+bool isControl(QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0x9f); }
+
+} // namespace
+
+void print(const QString &text) { write(stdout, text.toUtf8()); }
+
+void printBytes(const QByteArray &bytes) { write(stdout, bytes); }
+
+bool finishOutput()
+{
+    if (std::fflush(stdout) != 0 && refusal == 0)
+        refusal = errno;
+    if (refusal == 0)
+        return true;
+    printMessage(QCoreApplication::translate("tessel::cli", "standard output: cannot be written: %1")
+                     .arg(QString::fromUtf8(std::strerror(refusal))));
+    return false;
+}
+
+void printMessage(const QString &line) { write(stderr, line.toUtf8() + '\n'); }
+
+void printProblem(const QString &file, const documents::FileProblem &problem)
+{
+    QByteArray place;
+    if (problem.line > 0)
+        place = ':' + QByteArray::number(problem.line) + ':' + QByteArray::number(problem.column);
+    // System texts came in by the same codec as the name and leave by it: their bytes are the locale's own.
+    const bool onlyBytes = problem.message.toLatin1() == problem.message;
+    const QByteArray message = onlyBytes ? problem.message.toLatin1() : problem.message.toUtf8();
+    write(stderr, shownName(file).toLatin1() + place + ": " + message + '\n');
+}
+
+void printAbout(const QString &file, const QString &message)
+{
+    write(stderr, shownName(file).toLatin1() + ": " + message.toUtf8() + '\n');
+}
+
+QString shownName(const QString &file)
+{
+    if (file.isEmpty())
+        return QStringLiteral("\"\"");
+    if (file == QLatin1String("-"))
+        return QStringLiteral("standard input");
+    // A terminal reads UTF-8 where the bytes are UTF-8, and control characters in it, whatever the locale is.
+    const QByteArray bytes = file.toLatin1();
+    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
+    const bool isUtf8 = text.toUtf8() == bytes;
+    QString shown = isUtf8 ? text : file;
+    for (QChar &c : shown) {
+        if (isControl(c))
+            c = QLatin1Char('?');
+    }
+    return isUtf8 ? QString::fromLatin1(shown.toUtf8()) : shown;
+}
+
+QString printable(const QString &text)
+{
+    QString shown;
+    for (const QChar c : text) {
+        if (isControl(c))
+            shown += QStringLiteral("\\u%1").arg(int(c.unicode()), 4, 16, QLatin1Char('0'));
+        else
+            shown += c;
+    }
+    return shown;
+}
+
+} // namespace tessel::cli

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "documents/DocumentFile.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace tessel::cli {
+
+/// Writes \a text to standard output, as UTF-8.
+void print(const QString &text);
+
+/// Writes \a bytes to standard output as they are.
+void printBytes(const QByteArray &bytes);
+
+/// Makes sure that standard output took everything. When it did not, says so on standard error and returns
+/// false.
+bool finishOutput();
+
+/// Writes one line to standard error, as UTF-8.
+void printMessage(const QString &line);
+
+/// Writes "FILE: message" or "FILE:LINE:COLUMN: message" to standard error, the file's name in its own bytes.
+void printProblem(const QString &file, const documents::FileProblem &problem);
+
+/// Writes "FILE: message" to standard error, the file's name in its own bytes.
+void printAbout(const QString &file, const QString &message);
+
+/// \a file as messages name it: "standard input" for "-"; its bytes as Latin-1, "?" for what a
+/// terminal would act upon.
+QString shownName(const QString &file);
+
+/// \a text for a terminal: what a terminal would act upon is shown as \\uXXXX.
+QString printable(const QString &text);
+
+} // namespace tessel::cli

@@ -1,0 +1,132 @@
+#include "documents/DocumentFile.h"
+
+#include "documents/ParseFault.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace tessel::documents {
+namespace {
+
+constexpr qint64 kLargestFile = 1024 * 1024 * 1024;
+
+QString tr(const char *text) { return QCoreApplication::translate("tessel::documents", text); }
+
+template<typename Result>
+Outcome<Result> failed(const QString &message)
+{
+    return {std::nullopt, {message}};
+}
+
+Outcome<QJsonObject> failedAt(const QByteArray &bytes, int offset, const QString &message)
+{
+    return {std::nullopt, problemAt(bytes, offset, message)};
+}
+
+/// Names what a document begins with when it is no object; empty when it may be one.
+QString strangerAt(const QByteArray &bytes, int start)
+{
+    const char first = bytes.at(start);
+    if (first == '[')
+        return tr("expected an object at the top, found an array");
+    if (first == '"')
+        return tr("expected an object at the top, found a text");
+    if (first == '-' || (first >= '0' && first <= '9'))
+        return tr("expected an object at the top, found a number");
+    for (const char *word : {"true", "false", "null"}) {
+        if (bytes.mid(start).trimmed() == word)
+            return tr("expected an object at the top, found %1").arg(QLatin1String(word));
+    }
+    return QString();
+}
+
+bool startsAsUtf16(const QByteArray &bytes)
+{
+    return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
+}
+
+} // namespace
+
+Outcome<QByteArray> readFile(const QString &name)
+{
+    QFile file(name);
+    if (name != QLatin1String("-") && QFileInfo(name).isDir())
+        return failed<QByteArray>(tr("cannot be read: it is a folder; name a file"));
+    const bool opened = name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    if (!opened)
+        return failed<QByteArray>(tr("cannot be read: %1").arg(file.errorString()));
+    QByteArray bytes;
+    while (true) {
+        constexpr qint64 piece = 1024 * 1024;
+        const QByteArray more = file.read(qMax(piece, qMin(file.bytesAvailable(), kLargestFile)));
+        if (more.isEmpty())
+            break;
+        if (bytes.size() + qint64(more.size()) > kLargestFile)
+            return failed<QByteArray>(tr("is larger than 1 GiB; expected a smaller document"));
+        bytes += more;
+    }
+    if (file.error() != QFileDevice::NoError)
+        return failed<QByteArray>(tr("cannot be read: %1").arg(file.errorString()));
+    return {bytes, {}};
+}
+
+Outcome<QJsonObject> parseObject(const QByteArray &bytes)
+{
+    if (startsAsUtf16(bytes))
+        return failedAt(bytes, 0, tr("expected text in UTF-8, found UTF-16; save the file in UTF-8"));
+    int start = bytes.startsWith("\xef\xbb\xbf") ? 3 : 0;
+    while (start < bytes.size() && QByteArray(" \t\r\n").contains(bytes.at(start)))
+        ++start;
+    if (start == bytes.size())
+        return failedAt(bytes, start, tr("expected an object at the top, found nothing: the file is empty"));
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (document.isObject())
+        return {document.object(), {}};
+    const QString stranger = strangerAt(bytes, start);
+    if (!stranger.isEmpty() && (document.isArray() || bytes.at(start) != '['))
+        return failedAt(bytes, start, stranger);
+    return {std::nullopt, faultOf(bytes, error)};
+}
+
+Outcome<QJsonObject> readObject(const QString &name)
+{
+    const Outcome<QByteArray> read = readFile(name);
+    return read.result ? parseObject(*read.result) : Outcome<QJsonObject>{std::nullopt, read.problem};
+}
+
+std::optional<FileProblem> writeFile(const QString &name, const QByteArray &bytes)
+{
+    // Replacing a device by a file would be worse than a half-written pipe.
+    const QFileInfo info(name);
+    if (info.isDir())
+        return FileProblem{tr("cannot be written: it is a folder; name a file")};
+    if (info.exists() && !info.isFile()) {
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size())
+            return FileProblem{tr("cannot be written: %1").arg(file.errorString())};
+        return std::nullopt;
+    }
+    QSaveFile file(name);
+    errno = 0;
+    // Not until the last byte has left the buffer is it certain that there is room for it: commit() does not
+    // tell.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
+        return std::nullopt;
+    const int reason = errno;
+    const QString said = file.error() == QFileDevice::UnspecifiedError || file.error() == QFileDevice::NoError
+            || file.error() == QFileDevice::WriteError
+        ? QString::fromLocal8Bit(std::strerror(reason))
+        : file.errorString();
+    return FileProblem{tr("cannot be written: %1; nothing was changed").arg(said)};
+}
+
+} // namespace tessel::documents
