@@ -1,0 +1,47 @@
+# Thin calls of presets and scripts. "make run" and "make test" are all that a newcomer needs.
+.PHONY: run test asan bench check format icons fuzz clean
+
+SECONDS ?= 60
+
+run:
+	scripts/install-packages test
+	scripts/build dev tessel
+	scripts/run
+
+test:
+	scripts/install-packages test
+	scripts/build dev
+	ctest --preset dev
+
+asan:
+	scripts/install-packages test
+	scripts/build asan
+	ctest --preset asan
+
+# TESSEL_BENCH_DATA names a folder of dictionaries to be measured besides the generated ones.
+bench:
+	scripts/install-packages bench
+	scripts/build release
+	build/release/bench/bench_dictionary --benchmark_min_time=0.2
+
+check:
+	scripts/install-packages check
+	scripts/check
+
+format:
+	scripts/install-packages check
+	scripts/sources | xargs clang-format -i
+
+icons:
+	scripts/install-packages icons
+	scripts/render-icons
+
+# Runs the fuzz target for SECONDS seconds, beginning with the samples.
+fuzz:
+	scripts/install-packages fuzz
+	scripts/build fuzz
+	mkdir -p build/fuzz/corpus
+	build/fuzz/fuzz/fuzz_document -max_total_time=$(SECONDS) -timeout=10 build/fuzz/corpus samples
+
+clean:
+	rm -rf build
