@@ -212,7 +212,7 @@ QString jsonOf(const QJsonValue &value)
     if (value.isDouble() && value.toVariant().userType() == QMetaType::LongLong)
         return QString::number(value.toVariant().toLongLong());
     const QByteArray inArray = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    const QString text = QString::fromUtf8(inArray.mid(1, inArray.size() - 2));
+    QString text = QString::fromUtf8(inArray.mid(1, inArray.size() - 2));
     if (text.size() <= longest)
         return text;
     const bool splitsCharacter = text.at(longest - 1).isHighSurrogate();

@@ -1,5 +1,5 @@
-// Any bytes: parsed, read and written again, as the programs do with files. A document that was written once and read
-// again must be written the same way ever after.
+// Any bytes: parsed, read and written again, as the programs do with files. A document that was written once
+// and read again must be written the same way ever after.
 
 #include "documents/DocumentFile.h"
 #include "documents/DocumentForm.h"

@@ -8,8 +8,8 @@
 /// Keys of a JSON object, inserted one by one.
 namespace tessel::detail {
 
-/// Any value. Should memory run out, \a out is as it was: on its own an object keeps the new key without a value,
-/// and whoever reads it then crashes. A key that has a place already is replaced whole or not at all.
+/// Any value. Should memory run out, \a out is as it was: on its own an object keeps the new key without a
+/// value, and whoever reads it then crashes. A key that has a place already is replaced whole or not at all.
 inline void insertValue(QJsonObject &out, QLatin1String key, const QJsonValue &value)
 {
     if (out.contains(key)) {
