@@ -1,30 +1,14 @@
 #include "model/TDmEntity.h"
 
+#include "model/DeepDelete.h"
 #include "model/TDmVariable.h"
-
-#include <utility>
 
 TDmEntity::TDmEntity() = default;
 
 TDmEntity::~TDmEntity()
 {
-    // A work list instead of recursion: a chain of entities may be longer than the stack is deep. Each entity
-    // is robbed of its children before it is deleted, so its own destructor finds nothing left to walk.
-    QList<TDmEntity *> pending;
     if (children)
-        pending.swap(*children);
-    while (!pending.isEmpty()) {
-        TDmEntity *entity = pending.takeLast();
-        if (!entity)
-            continue;
-        if (entity->children) {
-            if (pending.isEmpty())
-                pending.swap(*entity->children);
-            else
-                pending += std::exchange(*entity->children, {});
-        }
-        delete entity;
-    }
+        deepDelete(*children, [](TDmEntity &entity) { return entity.children; });
     qDeleteAll(variables);
     if (children != &ownChildren)
         delete children;
