@@ -23,6 +23,7 @@ bench:
 	scripts/install-packages bench
 	scripts/build release
 	build/release/bench/bench_dictionary --benchmark_min_time=0.2
+	build/release/bench/bench_naming --benchmark_min_time=0.2
 
 check:
 	scripts/install-packages check

@@ -34,9 +34,10 @@ std::optional<QVector<documents::Finding>> findingsOf(const QString &file)
 
 QJsonObject jsonOf(const QString &file, const documents::Finding &finding)
 {
-    return {{QStringLiteral("file"), shownName(file)}, {QStringLiteral("code"), finding.code},
-        {QStringLiteral("severity"), QStringLiteral("error")}, {QStringLiteral("path"), finding.path},
-        {QStringLiteral("place"), finding.place}, {QStringLiteral("message"), finding.message}};
+    return {{QStringLiteral("file"), QString::fromUtf8(shownName(file).toLatin1())},
+        {QStringLiteral("code"), finding.code}, {QStringLiteral("severity"), QStringLiteral("error")},
+        {QStringLiteral("path"), finding.path}, {QStringLiteral("place"), finding.place},
+        {QStringLiteral("message"), finding.message}};
 }
 
 } // namespace

@@ -58,6 +58,14 @@ void printAbout(const QString &file, const QString &message)
     write(stderr, shownName(file).toLatin1() + ": " + message.toUtf8() + '\n');
 }
 
+void printFinding(const QString &file, const documents::Finding &finding)
+{
+    const QString place = finding.place.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.place);
+    const QString text = finding.path + place + QLatin1String(": ") + finding.message;
+    write(stdout,
+        shownName(file).toLatin1() + ": " + printable(text).toUtf8() + " [" + finding.code.toUtf8() + "]\n");
+}
+
 QString shownName(const QString &file)
 {
     if (file.isEmpty())

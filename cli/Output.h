@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/DocumentFile.h"
+#include "documents/Findings.h"
 
 #include <QByteArray>
 #include <QString>
@@ -29,6 +30,9 @@ void printAbout(const QString &file, const QString &message);
 /// \a file as messages name it: "standard input" for "-"; its bytes as Latin-1, "?" for what a
 /// terminal would act upon.
 QString shownName(const QString &file);
+
+/// Writes "FILE: PATH (PLACE): message [code]" to standard output, the file's name in its own bytes.
+void printFinding(const QString &file, const documents::Finding &finding);
 
 /// \a text for a terminal: what a terminal would act upon is shown as \\uXXXX.
 QString printable(const QString &text);

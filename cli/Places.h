@@ -13,7 +13,7 @@ struct Place {
     TDmEntity *entity = nullptr;
     TDmVariable *variable = nullptr;
     QString path; ///< Names from the top entity on, parted by "/".
-    QString pointer; ///< JSON pointer to the object in the document.
+    QString pointer; ///< JSON pointer to the object in the document's normal form.
 };
 
 /// All entities and variables below \a root, in document order; the root itself, with an empty path and

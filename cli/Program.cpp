@@ -1,5 +1,6 @@
 #include "cli/Program.h"
 
+#include "cli/CheckCommand.h"
 #include "cli/FormatCommand.h"
 #include "cli/Output.h"
 #include "cli/ShowCommand.h"
@@ -77,6 +78,13 @@ int run(int argc, char **argv)
     addExitStatus(*show);
 
     std::vector<std::string> files;
+    CLI::App *check = app.add_subcommand("check", "Judge dictionaries and print what is wrong with them");
+    check->add_option("FILE", files, "The dictionaries; - is standard input")->required();
+    check->add_option("--format", form, "text for people, json for programs")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+    addExitStatus(*check);
+
     std::string output;
     FormatOptions options;
     CLI::App *format = app.add_subcommand("format",
@@ -118,6 +126,8 @@ int run(int argc, char **argv)
     int status = Clean;
     if (show->parsed()) {
         status = showDocument(fileName(file), QString::fromStdString(path), form == "json");
+    } else if (check->parsed()) {
+        status = checkDocuments(fileNames(files), form == "json");
     } else {
         options.output = out->count() > 0 ? fileName(output) : QStringLiteral("-");
         status = formatDocuments(fileNames(files), options);

@@ -43,7 +43,7 @@ private:
             const TDmEntity &entity = *parent.getChildren()->at(i);
             const QString below = path + QStringLiteral("/entities/%1").arg(i);
             const QString names =
-                place.isEmpty() ? entity.getName() : place + QLatin1Char('/') + entity.getName();
+                path.isEmpty() ? entity.getName() : place + QLatin1Char('/') + entity.getName();
             judge(entity.getName(), below, names);
             walk(entity, below, names);
         }

@@ -11,7 +11,7 @@ namespace tessel::documents {
 /// One fault at one place. Codes are stable: programs may look for them.
 struct Finding {
     QString code; ///< For example "entity-name-duplicate".
-    QString path; ///< JSON pointer to the object at fault.
+    QString path; ///< JSON pointer to the object at fault, in the document's normal form.
     QString place; ///< Names from the top entity on, parted by "/", for people.
     QString message; ///< One sentence: what is wrong and what to do.
 };

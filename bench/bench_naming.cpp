@@ -1,0 +1,180 @@
+// How long it takes to gather the names in use in a dictionary and to judge them, per entity, for trees of
+// different shapes and sizes.
+
+#include "documents/Findings.h"
+#include "model/TDmEntity.h"
+#include "model/TDmVariable.h"
+#include "util/DictionaryUtil.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <limits>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// A tree to be measured, and what it is called in the table.
+struct Tree {
+    std::string shape;
+    int entities = 0;
+    std::unique_ptr<TDmEntity> root;
+
+    std::string title() const { return shape + ", " + std::to_string(entities) + " entities"; }
+};
+
+/// Entity number \a number: every name and alias stands once, each of its two variables in one of a hundred
+/// groups.
+TDmEntity *newEntity(int number)
+{
+    auto *entity = new TDmEntity;
+    entity->setName(QStringLiteral("ENTITY_%1").arg(number));
+    entity->setAlias(QStringLiteral("E%1").arg(number));
+    for (int i = 0; i < 2; ++i) {
+        auto *variable = new TDmVariable;
+        variable->setName(QStringLiteral("V%1").arg(i));
+        variable->setGroup(QStringLiteral("GROUP_%1").arg((number * 2 + i) % 100));
+        entity->addVariables(variable);
+    }
+    return entity;
+}
+
+/// A tree of \a entities entities: number n stands below number parentOf(n), number 0 is the root.
+template<typename ParentOf>
+Tree treeOf(const std::string &shape, int entities, ParentOf &&parentOf)
+{
+    std::vector<TDmEntity *> made{newEntity(0)};
+    for (int number = 1; number < entities; ++number) {
+        made.push_back(newEntity(number));
+        made[std::size_t(parentOf(number))]->getChildren()->append(made.back());
+    }
+    return {shape, entities, std::unique_ptr<TDmEntity>(made.front())};
+}
+
+constexpr int kChain = 400; // A document's objects and arrays stand at most 1024 deep in one another.
+const int kSizes[] = {1'000, 10'000};
+
+std::vector<Tree> allTrees()
+{
+    std::vector<Tree> trees;
+    for (const int size : kSizes)
+        trees.push_back(treeOf("wide", size, [](int) { return 0; }));
+    for (const int size : kSizes)
+        trees.push_back(treeOf("chains", size, [](int n) { return n % kChain == 1 ? 0 : n - 1; }));
+    for (const int size : kSizes)
+        trees.push_back(treeOf("mixed", size, [](int n) { return (n - 1) / 8; }));
+    return trees;
+}
+
+/// The fastest round is what the table shows.
+template<typename Work>
+void measure(benchmark::State &state, Work &&work)
+{
+    double best = std::numeric_limits<double>::max();
+    for (auto round : state) {
+        Q_UNUSED(round)
+        const auto start = Clock::now();
+        const auto result = work();
+        benchmark::DoNotOptimize(&result);
+        const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    state.counters["best"] = best;
+}
+
+void names(benchmark::State &state, TDmEntity *root)
+{
+    measure(state, [root] { return DictionaryUtil().getNamesEntitiesDictionary(root, {}); });
+}
+
+void aliases(benchmark::State &state, TDmEntity *root)
+{
+    measure(state, [root] { return DictionaryUtil().getAliasEntitiesDictionary(root, {}); });
+}
+
+void groups(benchmark::State &state, TDmEntity *root)
+{
+    measure(state, [root] { return DictionaryUtil().getGroupEntitiesDictionary(root, {}); });
+}
+
+void findings(benchmark::State &state, TDmEntity *root)
+{
+    measure(state, [root] { return tessel::documents::findingsIn(*root); });
+}
+
+struct Task {
+    const char *name;
+    void (*work)(benchmark::State &, TDmEntity *);
+};
+const Task kTasks[] = {{"names", names}, {"aliases", aliases}, {"groups", groups}, {"findings", findings}};
+
+/// Keeps the fastest round of each measurement for the table at the end.
+class Collector : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type != Run::RT_Iteration)
+                continue;
+            const double time = run.counters.at("best").value;
+            const auto known = seconds.emplace(run.run_name.function_name, time).first;
+            known->second = std::min(known->second, time);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    std::map<std::string, double> seconds;
+};
+
+/// Nanoseconds per entity, and how much more they are in the larger of two trees of one shape.
+void printTable(const std::vector<Tree> &trees, std::map<std::string, double> &seconds)
+{
+    const auto perEntity = [&](const Task &task, const Tree &tree) {
+        return seconds[task.name + (" " + tree.title())] * 1e9 / tree.entities;
+    };
+    std::printf("\n%-32s", "ns per entity");
+    for (const Task &task : kTasks)
+        std::printf(" %9s", task.name);
+    std::printf("\n");
+    for (std::size_t i = 0; i < trees.size(); ++i) {
+        std::printf("%-32s", trees[i].title().c_str());
+        for (const Task &task : kTasks)
+            std::printf(" %9.1f", perEntity(task, trees[i]));
+        std::printf("\n");
+        if (i % 2 == 0)
+            continue;
+        std::printf("%-32s", "  growth per entity");
+        for (const Task &task : kTasks)
+            std::printf(" %9.2f", perEntity(task, trees[i]) / perEntity(task, trees[i - 1]));
+        std::printf("\n");
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const std::vector<Tree> trees = allTrees();
+    for (const Tree &tree : trees) {
+        for (const Task &task : kTasks) {
+            benchmark::RegisterBenchmark(
+                (task.name + (" " + tree.title())).c_str(), task.work, tree.root.get())
+                ->UseManualTime()
+                ->Unit(benchmark::kMicrosecond)
+                ->Repetitions(3);
+        }
+    }
+    benchmark::Initialize(&argc, argv);
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    printTable(trees, collector.seconds);
+    return 0;
+}
