@@ -22,7 +22,7 @@ asan:
 bench:
 	scripts/install-packages bench
 	scripts/build release
-	build/release/bench/bench_dictionary --benchmark_min_time=0.2
+	build/release/bench/bench_dictionary
 	build/release/bench/bench_naming --benchmark_min_time=0.2
 
 check:
