@@ -65,10 +65,10 @@ private:
         if (!validate.validateStringC(name))
             add("entity-name-unprintable",
                 tr("an entity's name holds no control character, double quote or backslash"));
-        if (detail::isTooLong(name)) {
+        if (detail::EntityNameRules::isTooLong(name)) {
             add("entity-name-too-long",
                 tr("an entity's name has at most %1 characters; this one has %2")
-                    .arg(detail::kLongestEntityName)
+                    .arg(detail::EntityNameRules::kLongest)
                     .arg(trimmed.size()));
         }
         const auto first = firstPlaces.constFind(trimmed);

@@ -39,31 +39,32 @@ bool DictionaryTreeModel::setData(const QModelIndex &index, const QVariant &valu
         return false;
     const QString text = value.toString();
 
-    TakenNames taken;
+    EntityNameRules::Taken taken;
     if (folded(entity->getName()) != folded(text))
         taken.names = dictionaryUtil->getNamesEntitiesDictionary(root, {});
     taken.groups = dictionaryUtil->getGroupEntitiesDictionary(root, {});
     taken.aliases = dictionaryUtil->getAliasEntitiesDictionary(root, {});
 
-    switch (faultOf(text, taken, *validate)) {
-    case NameFault::None:
+    using Fault = EntityNameRules::Fault;
+    switch (EntityNameRules::faultOf(text, taken, *validate)) {
+    case Fault::None:
         break;
-    case NameFault::Empty:
-    case NameFault::NoName:
+    case Fault::Empty:
+    case Fault::NoName:
         return false;
-    case NameFault::Group:
+    case Fault::Group:
         UtilForms::showInfoMessage(tr("Entity name already exists as a group name"));
         return false;
-    case NameFault::Entity:
+    case Fault::Entity:
         UtilForms::showInfoMessage(tr("Entity name already exists"));
         return false;
-    case NameFault::Alias:
+    case Fault::Alias:
         UtilForms::showInfoMessage(tr("Entity name already exists as an alias name"));
         return false;
-    case NameFault::NoText:
+    case Fault::NoText:
         UtilForms::showInfoMessage(tr("Invalid string"));
         return false;
-    case NameFault::TooLong:
+    case Fault::TooLong:
         UtilForms::showInfoMessage(tr("Chain with length greater than 50"));
         return false;
     }
