@@ -42,7 +42,7 @@ fuzz:
 	scripts/install-packages fuzz
 	scripts/build fuzz
 	mkdir -p build/fuzz/corpus
-	build/fuzz/fuzz/fuzz_document -max_total_time=$(SECONDS) -timeout=10 build/fuzz/corpus samples
+	LSAN_OPTIONS=suppressions=fuzz/lsan.supp:print_suppressions=0 build/fuzz/fuzz/fuzz_document -artifact_prefix=build/fuzz/ -max_total_time=$(SECONDS) -timeout=10 build/fuzz/corpus samples
 
 clean:
 	rm -rf build
