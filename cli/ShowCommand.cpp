@@ -165,14 +165,13 @@ void showVariable(const Place &place)
 QJsonObject objectOf(const Place &place)
 {
     QJsonObject object;
-    if (!place.variable) {
-        ProcessDictionaryBusiness().getStructuraTreeRootToJson(place.entity, &object);
-        object.remove(QStringLiteral("entities"));
-        return object;
-    }
-    const int index = place.entity->getVariables()->indexOf(place.variable);
     ProcessDictionaryBusiness().getStructuraTreeRootToJson(place.entity, &object);
-    return object.value(QLatin1String("variables")).toArray().at(index).toObject();
+    if (place.variable) {
+        const int index = place.entity->getVariables()->indexOf(place.variable);
+        return object.value(QLatin1String("variables")).toArray().at(index).toObject();
+    }
+    object.remove(QStringLiteral("entities"));
+    return object;
 }
 
 /// Why \a path shows nothing: no place or more than one has that name.
