@@ -2,6 +2,7 @@
 // writing of the same documents take in the same run.
 
 #include "bench/GeneratedDictionary.h"
+#include "bench/Measure.h"
 #include "business/ProcessDictionaryBusiness.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
@@ -16,7 +17,6 @@
 #include <malloc.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
@@ -26,8 +26,6 @@
 #include <vector>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 /// A document to be measured: its text, how many variables it holds, and what it is called in the table.
 struct Document {
@@ -98,23 +96,10 @@ void settle()
     std::free(large);
 }
 
-/// Times \a work alone: what it makes is freed while the clock stands. The fastest round is what the table
-/// shows.
 template<typename Work>
 void measure(benchmark::State &state, Work &&work)
 {
-    double best = std::numeric_limits<double>::max();
-    for (auto round : state) {
-        Q_UNUSED(round)
-        settle();
-        const auto start = Clock::now();
-        const auto result = work();
-        benchmark::DoNotOptimize(&result);
-        const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-        state.SetIterationTime(seconds);
-        best = std::min(best, seconds);
-    }
-    state.counters["best"] = best;
+    tessel::bench::measure(state, work, settle);
 }
 
 void parse(benchmark::State &state, const Document &document)
@@ -148,24 +133,6 @@ void write(benchmark::State &state, const Document &document)
     ProcessDictionaryBusiness().getStructuraTreeRootToJson(root.get(), &out);
     measure(state, [&] { return QJsonDocument(out).toJson(); });
 }
-
-/// Keeps the fastest round of each measurement for the table at the end.
-class Collector : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs) {
-            if (run.run_type != Run::RT_Iteration)
-                continue;
-            const double time = run.counters.at("best").value;
-            const auto known = seconds.emplace(run.run_name.function_name, time).first;
-            known->second = std::min(known->second, time);
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-
-    std::map<std::string, double> seconds;
-};
 
 void printTable(const std::vector<Document> &documents, std::map<std::string, double> &seconds)
 {
@@ -209,7 +176,7 @@ int main(int argc, char **argv)
         add("text", write);
     }
     benchmark::Initialize(&argc, argv);
-    Collector collector;
+    tessel::bench::Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(documents, collector.seconds);
     return 0;

@@ -1,6 +1,7 @@
 // How long it takes to gather the names in use in a dictionary and to judge them, per entity, for trees of
 // different shapes and sizes.
 
+#include "bench/Measure.h"
 #include "documents/Findings.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
@@ -9,7 +10,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <limits>
 #include <map>
@@ -18,8 +18,6 @@
 #include <vector>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 /// A tree to be measured, and what it is called in the table.
 struct Tree {
@@ -73,21 +71,10 @@ std::vector<Tree> allTrees()
     return trees;
 }
 
-/// The fastest round is what the table shows.
 template<typename Work>
 void measure(benchmark::State &state, Work &&work)
 {
-    double best = std::numeric_limits<double>::max();
-    for (auto round : state) {
-        Q_UNUSED(round)
-        const auto start = Clock::now();
-        const auto result = work();
-        benchmark::DoNotOptimize(&result);
-        const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-        state.SetIterationTime(seconds);
-        best = std::min(best, seconds);
-    }
-    state.counters["best"] = best;
+    tessel::bench::measure(state, work, [] {});
 }
 
 void names(benchmark::State &state, TDmEntity *root)
@@ -115,24 +102,6 @@ struct Task {
     void (*work)(benchmark::State &, TDmEntity *);
 };
 const Task kTasks[] = {{"names", names}, {"aliases", aliases}, {"groups", groups}, {"findings", findings}};
-
-/// Keeps the fastest round of each measurement for the table at the end.
-class Collector : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run> &runs) override
-    {
-        for (const Run &run : runs) {
-            if (run.run_type != Run::RT_Iteration)
-                continue;
-            const double time = run.counters.at("best").value;
-            const auto known = seconds.emplace(run.run_name.function_name, time).first;
-            known->second = std::min(known->second, time);
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-
-    std::map<std::string, double> seconds;
-};
 
 /// Nanoseconds per entity, and how much more they are in the larger of two trees of one shape.
 void printTable(const std::vector<Tree> &trees, std::map<std::string, double> &seconds)
@@ -173,7 +142,7 @@ int main(int argc, char **argv)
         }
     }
     benchmark::Initialize(&argc, argv);
-    Collector collector;
+    tessel::bench::Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(trees, collector.seconds);
     return 0;

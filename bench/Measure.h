@@ -1,0 +1,51 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tessel::bench {
+
+/// Times \a work alone, after \a prepare: what it makes is freed while the clock stands. The fastest round is
+/// what tables show.
+template<typename Work, typename Prepare>
+void measure(benchmark::State &state, Work &&work, Prepare &&prepare)
+{
+    using Clock = std::chrono::steady_clock;
+    double best = std::numeric_limits<double>::max();
+    for ([[maybe_unused]] auto round : state) {
+        prepare();
+        const auto start = Clock::now();
+        const auto result = work();
+        benchmark::DoNotOptimize(&result);
+        const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    state.counters["best"] = best;
+}
+
+/// Keeps the fastest round of each measurement for the table at the end.
+class Collector : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type != Run::RT_Iteration)
+                continue;
+            const double time = run.counters.at("best").value;
+            const auto known = seconds.emplace(run.run_name.function_name, time).first;
+            known->second = std::min(known->second, time);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    std::map<std::string, double> seconds;
+};
+
+} // namespace tessel::bench
