@@ -285,6 +285,14 @@ private slots:
         QVERIFY(told.out.contains("FILE"));
     }
 
+    void aFileWithAccentsIsNamedToPrograms()
+    {
+        tessel->put("a\xc3\xb1o.json", kBad);
+        const Told told = tessel->run({"check", "--format", "json", "a\xc3\xb1o.json"});
+        QCOMPARE(told.status, 1);
+        QCOMPARE(told.out, QByteArray("[\n" + badObjects("a\xc3\xb1o.json") + "\n]\n"));
+    }
+
 private:
     std::unique_ptr<Tessel> tessel;
 };
