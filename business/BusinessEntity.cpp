@@ -3,8 +3,7 @@
 #include "business/Constants.h"
 #include "model/TDmEntity.h"
 #include "util/DictionaryUtil.h"
-
-#include <QMessageBox>
+#include "util/detail/PlainBox.h"
 
 namespace {
 
@@ -16,11 +15,9 @@ bool isConfirmed(const QString &names)
         QStringLiteral("You have child entities that are selectable, and they are as follows:\n%1\n"
                        "Are you sure you want to deselect this entity and its child entities?.\n")
             .arg(names);
-    QMessageBox box(QMessageBox::Question, QString(), text, QMessageBox::Yes | QMessageBox::No);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return tessel::detail::PlainBox::show(QMessageBox::Question, nullptr, QString(), text,
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No, QMessageBox::No)
+        == QMessageBox::Yes;
 }
 
 } // namespace
