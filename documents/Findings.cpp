@@ -1,6 +1,7 @@
 #include "documents/Findings.h"
 
 #include "business/models/detail/EntityNameRules.h"
+#include "documents/VariableFindings.h"
 #include "model/TDmEntity.h"
 #include "util/DictionaryUtil.h"
 
@@ -26,7 +27,8 @@ QSet<QString> trimmedSet(const QStringList &texts)
 class NameCheck {
 public:
     explicit NameCheck(TDmEntity &root)
-        : aliases(trimmedSet(DictionaryUtil().getAliasEntitiesDictionary(&root, {})))
+        : variables(trimmedSet(DictionaryUtil().getNamesEntitiesDictionary(&root, {})), findings)
+        , aliases(trimmedSet(DictionaryUtil().getAliasEntitiesDictionary(&root, {})))
         , groups(trimmedSet(DictionaryUtil().getGroupEntitiesDictionary(&root, {})))
     {
         if (!root.getName().trimmed().isEmpty())
@@ -45,6 +47,7 @@ private:
             const QString names =
                 path.isEmpty() ? entity.getName() : place + QLatin1Char('/') + entity.getName();
             judge(entity.getName(), below, names);
+            variables.judge(entity, below, names);
             walk(entity, below, names);
         }
     }
@@ -83,6 +86,7 @@ private:
             add("entity-name-is-group", tr("the name is also a group of variables; change one of them"));
     }
 
+    VariableFindings variables;
     Validate validate;
     QSet<QString> aliases;
     QSet<QString> groups;

@@ -18,6 +18,9 @@ struct Finding {
 
 /// The faults of the tree below \a root, in document order; the root stands for the document itself.
 ///
+/// What an entity says of its variables and the variables themselves follow its name; the entities below it
+/// come last.
+///
 /// | code | the entity's name |
 /// |---|---|
 /// | entity-name-empty | is empty or blank |
@@ -27,6 +30,19 @@ struct Finding {
 /// | entity-name-duplicate | is that of an entity before it |
 /// | entity-name-is-alias | is an alias of an entity |
 /// | entity-name-is-group | is a group of variables |
+///
+/// | code | what is wrong |
+/// |---|---|
+/// | entity-code-unknown | the variable that holds the entity's code is none of its variables |
+/// | entity-label-unknown | the variable that holds the entity's label is none of its variables |
+/// | entity-weight-unknown | the variable that holds the entity's weight is none of its variables |
+/// | variable-name-unprintable | a variable's name holds a control character, a double quote or a backslash |
+/// | variable-name-duplicate | a variable's name is that of a variable before it in the entity |
+/// | variable-name-is-entity | a variable's name is that of an entity |
+/// | variable-label-unprintable | a variable's label holds a control character, a double quote or a backslash
+/// | | variable-type-unknown | a variable's type is none of string, integer, real and bool | |
+/// label-code-not-number | a code under a numeric type is no such number and would be saved as 0 | |
+/// range-reversed | a range's minimum is above its maximum |
 QVector<Finding> findingsIn(TDmEntity &root);
 
 } // namespace tessel::documents

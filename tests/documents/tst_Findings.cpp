@@ -188,8 +188,9 @@ private slots:
         row("a group with a hyphen is compared as well",
             "{'entities':[{'name':'A-B','variables':[{'group':'A-B'}]}]}",
             "entity-name-invalid /entities/0 A-B; entity-name-is-group /entities/0 A-B");
-        row("names and aliases of variables do not matter",
-            "{'entities':[{'name':'A','variables':[{'name':'A','alias':'A','label':'A'}]}]}");
+        row("names and aliases of variables are no fault of the entity's name",
+            "{'entities':[{'name':'A','variables':[{'name':'A','alias':'A','label':'A'}]}]}",
+            "variable-name-is-entity /entities/0/variables/0 A/A");
         row("labels do not matter", "{'label':'A','entities':[{'name':'A','label':'A'}]}");
         row("the dictionary's own name is not judged",
             "{'name':'1','alias':'1','variables':[{'group':'1'}]}");
