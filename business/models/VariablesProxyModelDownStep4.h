@@ -1,0 +1,13 @@
+#pragma once
+
+#include "business/BusinessExport.h"
+#include "business/models/detail/VariableFilterProxyModel.h"
+
+/// Filters variables by their first three columns, and sorts them as text.
+class BUSINESS_TESSEL_EXPORT VariablesProxyModelDownStep4 : public tessel::detail::VariableFilterProxyModel {
+    Q_OBJECT
+
+public:
+    /// Without a source: the front end sets the source model and the pattern.
+    explicit VariablesProxyModelDownStep4(QObject *parent);
+};
