@@ -24,6 +24,8 @@ bench:
 	scripts/build release
 	build/release/bench/bench_dictionary
 	build/release/bench/bench_naming --benchmark_min_time=0.2
+	build/release/bench/bench_variables --benchmark_min_time=0.2
+	build/release/bench/bench_filters --benchmark_min_time=0.3
 
 check:
 	scripts/install-packages check

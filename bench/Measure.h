@@ -4,12 +4,29 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
+#include <cstdlib>
 #include <limits>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace tessel::bench {
+
+/// Brings the machine into the state in which a program meets a document: nothing of it in the processor's
+/// caches, as after reading a file once, and the pieces of memory that the last round freed joined, which the
+/// allocator would else put off until the next large request. Without this, small documents would only be
+/// measured in the caches.
+inline void settle()
+{
+    static std::vector<char> other(64 * 1024 * 1024);
+    for (std::size_t i = 0; i < other.size(); i += 64)
+        ++other[i];
+    benchmark::DoNotOptimize(other.data());
+    void *large = std::malloc(64 * 1024);
+    benchmark::DoNotOptimize(large);
+    std::free(large);
+}
 
 /// Times \a work alone, after \a prepare: what it makes is freed while the clock stands. The fastest round is
 /// what tables show.

@@ -81,25 +81,10 @@ std::vector<Document> allDocuments()
     return documents;
 }
 
-/// Brings the machine into the state in which a program meets a document: nothing of it in the processor's
-/// caches, as after reading a file once, and the pieces of memory that the last round freed joined, which the
-/// allocator would else put off until the next large request. Without this, small documents would only be
-/// measured in the caches.
-void settle()
-{
-    static std::vector<char> other(64 * 1024 * 1024);
-    for (std::size_t i = 0; i < other.size(); i += 64)
-        ++other[i];
-    benchmark::DoNotOptimize(other.data());
-    void *large = std::malloc(64 * 1024);
-    benchmark::DoNotOptimize(large);
-    std::free(large);
-}
-
 template<typename Work>
 void measure(benchmark::State &state, Work &&work)
 {
-    tessel::bench::measure(state, work, settle);
+    tessel::bench::measure(state, work, tessel::bench::settle);
 }
 
 void parse(benchmark::State &state, const Document &document)

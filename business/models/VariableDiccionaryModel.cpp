@@ -1,9 +1,9 @@
 #include "business/models/VariableDiccionaryModel.h"
 
 #include "business/Constants.h"
+#include "business/models/detail/KnownVariables.h"
 #include "business/models/detail/TransferredVariable.h"
 #include "business/models/detail/VariableEditRules.h"
-#include "business/models/detail/VariableIdentity.h"
 #include "business/models/detail/VariableType.h"
 #include "model/MetadataVariables.h"
 #include "model/TDmEntity.h"
@@ -224,18 +224,15 @@ void VariableDiccionaryModel::updateEntityVariables(QList<TDmVariable *> *list)
 {
     if (!entity || !list)
         return;
-    // Equal variables of the entity, in its order; the first of them is what a new one may replace.
-    QHash<VariableIdentity, QList<TDmVariable *>> known;
-    known.reserve(entity->getVariables()->size() + list->size());
+    KnownVariables known(entity->getVariables()->size() + list->size());
     for (TDmVariable *variable : qAsConst(*entity->getVariables())) {
         if (variable)
-            known[VariableIdentity(*variable)].append(variable);
+            known.append(variable);
     }
     for (TDmVariable *variable : qAsConst(*list)) {
         if (!variable)
             continue;
-        QList<TDmVariable *> &equals = known[VariableIdentity(*variable)];
-        if (!equals.isEmpty()) {
+        if (TDmVariable *same = known.firstSame(*variable)) {
             // No blank between the two sentences: meant so.
             const QString question = variable->getName() + kBlank + tr("already exists.") + tr("Overwrite?");
             const int answer = PlainBox::show(QMessageBox::Question, nullptr, tr("Overwrite variable"),
@@ -243,10 +240,11 @@ void VariableDiccionaryModel::updateEntityVariables(QList<TDmVariable *> *list)
             if (answer == QMessageBox::No)
                 continue;
             // Unlinked, not deleted: others may hold it.
-            entity->getVariables()->removeOne(equals.takeFirst());
+            entity->getVariables()->removeOne(same);
+            known.removeFirstSame(*variable);
         }
         entity->addVariables(variable);
-        equals.append(variable);
+        known.append(variable);
         emit signalVariablesModified();
     }
     showDuplicatedNamesWarning();
@@ -256,7 +254,9 @@ void VariableDiccionaryModel::showDuplicatedNamesWarning()
 {
     if (!entity)
         return;
-    QHash<QString, int> counts;
+    // Views into the variables' own texts, which nothing changes before the box is shown.
+    QHash<QStringView, int> counts;
+    counts.reserve(entity->getVariables()->size());
     for (const TDmVariable *variable : qAsConst(*entity->getVariables())) {
         if (variable)
             ++counts[variable->getName()];
