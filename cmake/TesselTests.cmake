@@ -3,7 +3,7 @@
 function(tessel_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
     target_link_libraries(${name} PRIVATE
         test_support
         Business_Tessel

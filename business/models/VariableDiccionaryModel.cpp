@@ -30,14 +30,14 @@ constexpr int kHighestTag = 9999;
 /// The whole number that \a value is, if there is one that an int holds.
 bool readTag(const QVariant &value, int *tag)
 {
-    // QVariant::toInt() would wrap numbers around.
-    bool ok = false;
-    const double number = std::round(value.toDouble(&ok));
-    using Limits = std::numeric_limits<int>;
-    if (!ok || !(number >= Limits::min() && number <= Limits::max()))
+    bool isNumber = false;
+    *tag = value.toInt(&isNumber);
+    if (!isNumber)
         return false;
-    *tag = value.toInt(&ok);
-    return ok;
+    // QVariant wraps numbers around that no int holds.
+    bool isComparable = false;
+    const double exact = std::round(value.toDouble(&isComparable));
+    return !isComparable || exact == *tag;
 }
 
 int limitedTag(int tag)
@@ -224,12 +224,14 @@ void VariableDiccionaryModel::updateEntityVariables(QList<TDmVariable *> *list)
 {
     if (!entity || !list)
         return;
-    KnownVariables known(entity->getVariables()->size() + list->size());
+    // A copy, should the list be the entity's own.
+    const QList<TDmVariable *> fresh = *list;
+    KnownVariables known(entity->getVariables()->size() + fresh.size());
     for (TDmVariable *variable : qAsConst(*entity->getVariables())) {
         if (variable)
             known.append(variable);
     }
-    for (TDmVariable *variable : qAsConst(*list)) {
+    for (TDmVariable *variable : fresh) {
         if (!variable)
             continue;
         if (TDmVariable *same = known.firstSame(*variable)) {

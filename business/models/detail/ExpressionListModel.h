@@ -55,12 +55,11 @@ protected:
                                                          : QVariant();
     }
 
-    /// The last of \a count rows from \a row on. Below the highest number, which views count beyond.
+    /// The last of \a count rows from \a row on; where no int holds it, the nearest one.
     static int lastOf(int row, int count)
     {
-        const qint64 last = qint64(row) + count - 1;
-        return int(std::clamp<qint64>(
-            last, std::numeric_limits<int>::min() + 1, std::numeric_limits<int>::max() - 1));
+        using Limits = std::numeric_limits<int>;
+        return int(std::clamp<qint64>(qint64(row) + count - 1, Limits::min(), Limits::max()));
     }
 
     const eEntityShowMode mode;

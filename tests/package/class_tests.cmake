@@ -1,0 +1,63 @@
+# cmake -D CTEST=ctest -D BUILD_DIR=<folder> -D WORK_DIR=<folder> -D TABLE=class_tests.txt
+#     [-D CLASSES=exported_classes.txt] -P class_tests.cmake
+# TABLE must name every exported class once, no other, and for each at least one program, all of them known to
+# ctest in BUILD_DIR.
+cmake_minimum_required(VERSION 3.25)
+
+foreach(needed CTEST BUILD_DIR WORK_DIR TABLE)
+    if(NOT ${needed})
+        message(FATAL_ERROR "${needed} is missing")
+    endif()
+endforeach()
+if(NOT CLASSES)
+    set(CLASSES ${CMAKE_CURRENT_LIST_DIR}/exported_classes.txt)
+endif()
+
+file(STRINGS ${CLASSES} exported REGEX "^[^#]")
+list(TRANSFORM exported REPLACE "^.* " "")
+if(NOT exported)
+    message(FATAL_ERROR "${CLASSES} names no class")
+endif()
+
+# ctest writes its log anew even when it only lists: not that of the run that this is part of.
+file(WRITE ${WORK_DIR}/CTestTestfile.cmake "subdirs(\"${BUILD_DIR}\")\n")
+execute_process(COMMAND ${CTEST} --test-dir ${WORK_DIR} --show-only
+    RESULT_VARIABLE result OUTPUT_VARIABLE text ERROR_VARIABLE errors)
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "${CTEST} ended with ${result}:\n${errors}")
+endif()
+string(REGEX MATCHALL "Test +#[0-9]+: [^\n]+" registered "${text}")
+list(TRANSFORM registered REPLACE "^Test +#[0-9]+: " "")
+
+set(failures)
+set(seen)
+file(STRINGS ${TABLE} lines REGEX "^[^#]")
+foreach(line IN LISTS lines)
+    string(REGEX REPLACE " +" ";" programs "${line}")
+    list(POP_FRONT programs class)
+    if(NOT class IN_LIST exported)
+        list(APPEND failures "${class} is no exported class")
+    elseif(class IN_LIST seen)
+        list(APPEND failures "${class} has two lines")
+    endif()
+    list(APPEND seen "${class}")
+    if(NOT programs)
+        list(APPEND failures "${class} has no test program")
+    endif()
+    foreach(program IN LISTS programs)
+        if(NOT program IN_LIST registered)
+            list(APPEND failures "${program}, named for ${class}, is not registered with ctest")
+        endif()
+    endforeach()
+endforeach()
+foreach(class IN LISTS exported)
+    if(NOT class IN_LIST seen)
+        list(APPEND failures "${class} has no line")
+    endif()
+endforeach()
+
+if(failures)
+    list(JOIN failures "\n" failures)
+    message("${failures}")
+    message(FATAL_ERROR "${TABLE} does not tell who tests what")
+endif()
