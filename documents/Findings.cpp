@@ -12,8 +12,6 @@
 namespace tessel::documents {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("tessel::documents", text); }
-
 /// Names are compared without the blanks around them.
 QSet<QString> trimmedSet(const QStringList &texts)
 {
@@ -25,6 +23,8 @@ QSet<QString> trimmedSet(const QStringList &texts)
 
 /// Judges one entity after the other, each against what the whole dictionary holds.
 class NameCheck {
+    Q_DECLARE_TR_FUNCTIONS(tessel::documents::NameCheck)
+
 public:
     explicit NameCheck(TDmEntity &root)
         : variables(trimmedSet(DictionaryUtil().getNamesEntitiesDictionary(&root, {})), findings)

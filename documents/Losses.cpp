@@ -12,7 +12,7 @@
 namespace tessel::documents {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("tessel::documents", text); }
+QString tr(const char *text) { return QCoreApplication::translate("tessel::documents::Loss", text); }
 
 /// How the values of a key are held, and so what it means that the key is absent.
 enum class Holding { Text, Code, Type, Whole, Real, Flag, SetFlag, Names, Object, Objects };

@@ -8,16 +8,12 @@
 #include "model/ValueLabelElement.h"
 #include "util/Validate.h"
 
-#include <QCoreApplication>
-
 #include <utility>
 
 namespace tessel::documents {
 namespace {
 
 using detail::VariableType;
-
-QString tr(const char *text) { return QCoreApplication::translate("tessel::documents", text); }
 
 /// Whether \a code would be saved as the number that it says under \a type; an empty code is not saved at
 /// all.

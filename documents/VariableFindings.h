@@ -2,6 +2,7 @@
 
 #include "documents/Findings.h"
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -13,6 +14,8 @@ namespace tessel::documents {
 
 /// Judges the variables of one entity after the other, as the table of variables would judge what is typed.
 class VariableFindings {
+    Q_DECLARE_TR_FUNCTIONS(tessel::documents::VariableFindings)
+
 public:
     /// Appends to \a list, which must outlive this object. \a names are those of all entities, trimmed.
     VariableFindings(QSet<QString> names, QVector<Finding> &list);

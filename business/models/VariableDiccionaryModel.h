@@ -58,8 +58,8 @@ public:
     /// Adds each variable of \a list to the entity, which owns it from then on. Where one with the same name,
     /// alias, label and group is there already, a box asks whether the new one takes its place; what it
     /// replaces, and what is not added, is nobody's and stays alive. Then warns of repeated names. The rows
-    /// stay those of before. Texts that a slot of signalVariablesModified() changes meanwhile are not compared
-    /// again.
+    /// stay those of before. Texts that a slot of signalVariablesModified() changes meanwhile are not
+    /// compared again.
     void updateEntityVariables(QList<TDmVariable *> *list);
 
     /// Lists the variables whose names are not unique in the entity, in a box; without any, does nothing.
