@@ -1,6 +1,6 @@
-# tessel_add_test(<name> [SOURCES ...] [LIBRARIES ...] [DEFINITIONS ...])
+# tessel_add_test_program(<name> [SOURCES ...] [LIBRARIES ...] [DEFINITIONS ...])
 # One test program from <name>.cpp, with the three libraries, Qt Test and the tests' own support library.
-function(tessel_add_test name)
+function(tessel_add_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
@@ -14,9 +14,32 @@ function(tessel_add_test name)
     )
     target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
     target_precompile_headers(${name} REUSE_FROM test_support)
+endfunction()
+
+# tessel_add_test(<name> ...)
+# A test program that needs no display. Arguments as above.
+function(tessel_add_test name)
+    tessel_add_test_program(${name} ${ARGN})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        TIMEOUT 120
+    )
+endfunction()
+
+# tessel_add_window_test(<name> ...)
+# A test program with an X display of its own, on which the program xdotool moves the pointer. Arguments as above.
+function(tessel_add_window_test name)
+    find_program(TESSEL_XVFB_RUN xvfb-run REQUIRED)
+    find_program(TESSEL_XDOTOOL xdotool REQUIRED)
+    tessel_add_test_program(${name} ${ARGN})
+    add_test(NAME ${name} COMMAND
+        ${TESSEL_XVFB_RUN} --auto-servernum --server-args "-screen 0 1024x768x24" $<TARGET_FILE:${name}>
+    )
+    # No desktop's bus and no OpenGL: neither is needed, and both libraries leak.
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_XCB_GL_INTEGRATION=none;DBUS_SESSION_BUS_ADDRESS=disabled:;LC_ALL=C.UTF-8"
+        ENVIRONMENT_MODIFICATION "ASAN_OPTIONS=path_list_append:suppressions=${PROJECT_SOURCE_DIR}/tests/asan.supp"
         TIMEOUT 120
     )
 endfunction()

@@ -39,7 +39,7 @@ VarRangeModel::VarRangeModel(QObject *parent, TDmVariable *shownVariable)
 bool VarRangeModel::isInteger() const
 {
     // To the letter: "integer", as documents have it, is not whole. Meant so.
-    return variable->getVarType() == tessel::constants::kTypeInteger;
+    return variable && variable->getVarType() == tessel::constants::kTypeInteger;
 }
 
 QVariant VarRangeModel::getItemData(Range *range, int column) const
