@@ -27,6 +27,13 @@ public:
         return FieldTransfer::wrapped(texts);
     }
 
+    /// Takes nothing: false. Qt's own would read fields as if they were its own items, and foreign bytes can
+    /// make it fall over.
+    bool dropMimeData(const QMimeData *, Qt::DropAction, int, int, const QModelIndex &) override
+    {
+        return false;
+    }
+
 protected:
     explicit CatalogueModel(QObject *parent)
         : TransferListModel<Derived, Item>(parent, TransferListModel<Derived, Item>::EditText::Hidden)

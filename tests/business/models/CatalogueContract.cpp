@@ -189,6 +189,8 @@ void CatalogueContract::aNullItemIsARowThatShowsNothing()
         QVERIFY(!model.data(index, role).isValid());
     for (int column = 0; column < model.columnCount(); ++column)
         QVERIFY(!catalogue->textOf(-1, column).isValid());
+    QCOMPARE(open({QString(), "AGE"})->model().rowCount(), 2);
+    QCOMPARE(open({QString()})->model().rowCount(), 1);
     // It has its place among the others.
     QCOMPARE(model.data(model.index(2, 0)).toString(), textsOfRow("SEX", 3).at(0));
     QCOMPARE(model.data(model.index(2, model.columnCount() - 1)).toString(), textsOfRow("SEX", 3).last());
