@@ -1,0 +1,2301 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>DictionaryTreeModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as a group name</source>
+        <translation>El nombre de la entidad ya existe como nombre de grupo</translation>
+    </message>
+    <message>
+        <source>Entity name already exists</source>
+        <translation>El nombre de la entidad ya existe</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as an alias name</source>
+        <translation>El nombre de la entidad ya existe como alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Cadena no válida</translation>
+    </message>
+    <message>
+        <source>Chain with length greater than 50</source>
+        <translation>Cadena con longitud mayor que 50</translation>
+    </message>
+</context>
+<context>
+    <name>EntityModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+</context>
+<context>
+    <name>UtilForms</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>VarRangeModel</name>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+</context>
+<context>
+    <name>VarValueLabelDiccionaryModel</name>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDiccionaryModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists</source>
+        <translation>La cadena de caracteres escrita ya existe</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists as the alias of a variable</source>
+        <translation>La cadena de caracteres escrita ya existe como alias de una variable</translation>
+    </message>
+    <message>
+        <source>The value already exists as the name/alias of a variable alias </source>
+        <translation>El valor ya existe como nombre/alias de un alias de variable </translation>
+    </message>
+    <message>
+        <source>The value already exists as the name-entity/name-variable/alias</source>
+        <translation>El valor ya existe como nombre de entidad/nombre de variable/alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Cadena no válida</translation>
+    </message>
+    <message>
+        <source>RefCode Variable</source>
+        <translation>Variable RefCode</translation>
+    </message>
+    <message>
+        <source>Variable identified as RefCode.
+Keep it as RefCode?</source>
+        <translation>La variable está identificada como RefCode.
+¿Mantenerla como RefCode?</translation>
+    </message>
+    <message>
+        <source>already exists.</source>
+        <translation>ya existe.</translation>
+    </message>
+    <message>
+        <source>Overwrite?</source>
+        <translation>¿Sobrescribir?</translation>
+    </message>
+    <message>
+        <source>Overwrite variable</source>
+        <translation>Sobrescribir variable</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Duplicated names</source>
+        <translation>Nombres duplicados</translation>
+    </message>
+    <message>
+        <source>Error creating</source>
+        <translation>Error al crear</translation>
+    </message>
+    <message>
+        <source>Must be selectable entity.</source>
+        <translation>Debe ser una entidad seleccionable.</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelDownStep4</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelSplitStep3</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>dictionaryTreeModelDownload</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Describes censuses and surveys: entities, variables, value labels.</source>
+        <translation>Describe censos y encuestas: entidades, variables, etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>Write debug lines to standard error.</source>
+        <translation>Escribe líneas de depuración en la salida de error estándar.</translation>
+    </message>
+    <message>
+        <source>Save what the window shows to &lt;file&gt; and end.</source>
+        <translation>Guarda lo que muestra la ventana en &lt;file&gt; y termina.</translation>
+    </message>
+    <message>
+        <source>Go to the place that &lt;pointer&gt; names, as &quot;tessel check&quot; prints it.</source>
+        <translation>Va al lugar que indica &lt;pointer&gt;, tal como lo muestra &quot;tessel check&quot;.</translation>
+    </message>
+    <message>
+        <source>End as soon as the window is there, to try an installation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary to open.</source>
+        <translation>El diccionario que se abre.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents</name>
+    <message>
+        <source>expected an object at the top, found an array</source>
+        <translation>se esperaba un objeto en el nivel superior y se encontró un arreglo</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a text</source>
+        <translation>se esperaba un objeto en el nivel superior y se encontró un texto</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a number</source>
+        <translation>se esperaba un objeto en el nivel superior y se encontró un número</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found %1</source>
+        <translation>se esperaba un objeto en el nivel superior y se encontró %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>no se puede leer: es una carpeta; indique un archivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>is larger than 1 GiB; expected a smaller document</source>
+        <translation>ocupa más de 1 GiB; se esperaba un documento más pequeño</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>se esperaba texto en UTF-8 y se encontró UTF-16; guarde el archivo en UTF-8</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found nothing: the file is empty</source>
+        <translation>se esperaba un objeto en el nivel superior y no se encontró nada: el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>cannot be written: it is a folder; name a file</source>
+        <translation>no se puede escribir: es una carpeta; indique un archivo</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>no se puede escribir: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1; nothing was changed</source>
+        <translation>no se puede escribir: %1; no se cambió nada</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; or &quot;}&quot; after a value in an object</source>
+        <translation>se esperaba &quot;,&quot; o &quot;}&quot; después de un valor en un objeto</translation>
+    </message>
+    <message>
+        <source>expected &quot;:&quot; after a key</source>
+        <translation>se esperaba &quot;:&quot; después de una clave</translation>
+    </message>
+    <message>
+        <source>expected &quot;]&quot; at the end of an array</source>
+        <translation>se esperaba &quot;]&quot; al final de un arreglo</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; between two values</source>
+        <translation>se esperaba &quot;,&quot; entre dos valores</translation>
+    </message>
+    <message>
+        <source>expected a value: an object, an array, a text in double quotes, a number, true, false or null</source>
+        <translation>se esperaba un valor: un objeto, un arreglo, un texto entre comillas dobles, un número, true, false o null</translation>
+    </message>
+    <message>
+        <source>expected the rest of the document after a number</source>
+        <translation>se esperaba el resto del documento después de un número</translation>
+    </message>
+    <message>
+        <source>expected a number that JSON and double precision can hold</source>
+        <translation>se esperaba un número que JSON y la doble precisión puedan representar</translation>
+    </message>
+    <message>
+        <source>expected one of \&quot; \\ \/ \b \f \n \r \t \uXXXX after a backslash</source>
+        <translation>se esperaba una de las secuencias \&quot; \\ \/ \b \f \n \r \t \uXXXX con la barra invertida</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8; save the file in that encoding</source>
+        <translation>se esperaba texto en UTF-8; guarde el archivo con esa codificación</translation>
+    </message>
+    <message>
+        <source>expected a double quote at the end of a text</source>
+        <translation>se esperaban comillas dobles al final de un texto</translation>
+    </message>
+    <message>
+        <source>expected a key in double quotes</source>
+        <translation>se esperaba una clave entre comillas dobles</translation>
+    </message>
+    <message>
+        <source>objects and arrays stand more than 1024 deep in one another; expected fewer levels</source>
+        <translation>hay objetos y arreglos anidados en más de 1024 niveles; se esperaban menos niveles</translation>
+    </message>
+    <message>
+        <source>the document is too large; expected fewer values</source>
+        <translation>el documento es demasiado grande; se esperaban menos valores</translation>
+    </message>
+    <message>
+        <source>expected nothing more after the end of the document</source>
+        <translation>no se esperaba nada más después del final del documento</translation>
+    </message>
+    <message>
+        <source>expected a JSON document</source>
+        <translation>se esperaba un documento JSON</translation>
+    </message>
+    <message>
+        <source>%1, but the file ends here; it may have been cut off</source>
+        <translation>%1, pero el archivo termina aquí; puede estar truncado</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::Loss</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 no se escribe</translation>
+    </message>
+    <message>
+        <source>%1 is written as %2</source>
+        <translation>%1 se escribe como %2</translation>
+    </message>
+    <message>
+        <source>the key is given more than once and only one of its values is kept</source>
+        <translation>la clave aparece más de una vez y solo se conserva uno de sus valores</translation>
+    </message>
+    <message>
+        <source>what stands here is not JSON as other programs read it; it was read as well as could be</source>
+        <translation>lo que aparece aquí no es JSON tal como lo leen otros programas; se leyó lo mejor posible</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::NameCheck</name>
+    <message>
+        <source>the dictionary itself</source>
+        <translation>el propio diccionario</translation>
+    </message>
+    <message>
+        <source>the entity has no name; give it one</source>
+        <translation>la entidad no tiene nombre; asígnele uno</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name is a letter or _ followed by letters, digits and _</source>
+        <translation>el nombre de una entidad es una letra o _ seguida de letras, dígitos y _</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name holds no control character, double quote or backslash</source>
+        <translation>el nombre de una entidad no lleva caracteres de control, comillas dobles ni barras invertidas</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name has at most %1 characters; this one has %2</source>
+        <translation>el nombre de una entidad tiene como máximo %1 caracteres; este tiene %2</translation>
+    </message>
+    <message>
+        <source>the name is already that of %1; rename one of them</source>
+        <translation>%1 ya lleva ese nombre; cambie uno de los dos</translation>
+    </message>
+    <message>
+        <source>the name is also an alias of an entity; change one of them</source>
+        <translation>el nombre es también el alias de una entidad; cambie uno de los dos</translation>
+    </message>
+    <message>
+        <source>the name is also a group of variables; change one of them</source>
+        <translation>el nombre es también un grupo de variables; cambie uno de los dos</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::VariableFindings</name>
+    <message>
+        <source>a variable&apos;s label holds no control character, double quote or backslash</source>
+        <translation>la etiqueta de una variable no lleva caracteres de control, comillas dobles ni barras invertidas</translation>
+    </message>
+    <message>
+        <source>%1 is no type; a variable is a string, integer, real or bool</source>
+        <translation>%1 no es un tipo; una variable es string, integer, real o bool</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s code, is none of its variables; choose one or add it</source>
+        <translation>%1, que debe contener el código de la entidad, no es una de sus variables; elija una o agréguela</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s label, is none of its variables; choose one or add it</source>
+        <translation>%1, que debe contener la etiqueta de la entidad, no es una de sus variables; elija una o agréguela</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s weight, is none of its variables; choose one or add it</source>
+        <translation>%1, que debe contener el ponderador de la entidad, no es una de sus variables; elija una o agréguela</translation>
+    </message>
+    <message>
+        <source>a variable&apos;s name holds no control character, double quote or backslash</source>
+        <translation>el nombre de una variable no lleva caracteres de control, comillas dobles ni barras invertidas</translation>
+    </message>
+    <message>
+        <source>the name is already that of a variable before it; rename one of them</source>
+        <translation>una variable anterior ya lleva ese nombre; cambie uno de los dos</translation>
+    </message>
+    <message>
+        <source>the name is also that of an entity; rename one of them</source>
+        <translation>una entidad lleva también ese nombre; cambie uno de los dos</translation>
+    </message>
+    <message>
+        <source>the code %1 is no such number as the variable&apos;s type wants and would be saved as 0; change the code or the type</source>
+        <translation>el código %1 no es un número como el que exige el tipo de la variable y se guardaría como 0; cambie el código o el tipo</translation>
+    </message>
+    <message>
+        <source>the minimum %1 is above the maximum %2; exchange them</source>
+        <translation>el mínimo %1 es mayor que el máximo %2; intercámbielos</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor</name>
+    <message>
+        <source>About Tessel</source>
+        <translation>Acerca de Tessel</translation>
+    </message>
+    <message>
+        <source>Tessel %1
+
+Data dictionaries for hierarchical statistical databases.</source>
+        <translation>Tessel %1
+
+Diccionarios de datos para bases de datos estadísticas jerárquicas.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Does</source>
+        <translation>Acción</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Type into the cell</source>
+        <translation>Escribir en la celda</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tablas</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Keep what was typed and go to the next row</source>
+        <translation>Conservar lo escrito e ir a la fila siguiente</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, línea %2, columna %3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::AutoSave</name>
+    <message>
+        <source>No copy of the unsaved work could be kept in %1: %2.</source>
+        <translation>No se pudo conservar una copia del trabajo no guardado en %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CopyLabelsDialog</name>
+    <message>
+        <source>Copy labels</source>
+        <translation>Copiar etiquetas</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Variables that are to have the %n labels of %1 in place of their own:</source>
+        <translation>
+            <numerusform>&amp;Variables que recibirán la %n etiqueta de %1 en lugar de las propias:</numerusform>
+            <numerusform>&amp;Variables que recibirán las %n etiquetas de %1 en lugar de las propias:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvSourceTab</name>
+    <message>
+        <source>CSV fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a CSV file; only its header is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Separator of the CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stands between the fields; a choice reads the header again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Separator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields in %2.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Separator: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatabasePage</name>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the folder of the database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values that saving does not keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which database is built, where, and from which source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder in which the database is built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The main source file, whose records the dictionary describes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Source file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the database a name to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving loses or changes these values of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatasetSourceTab</name>
+    <message>
+        <source>Dataset fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a dataset; only the description of its fields is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a dataset to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dataset has no fields.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DictionaryDocument</name>
+    <message>
+        <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
+        <translation>es una configuración de proceso, no un diccionario; ábrala con Proceso, Abrir proceso</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntitiesPage</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Which entities of the dictionary take part in the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick the entities, with the mouse or the space bar:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet; add some before you plan a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick at least one entity to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityForm</name>
+    <message>
+        <source>&amp;Label</source>
+        <translation>E&amp;tiqueta</translation>
+    </message>
+    <message>
+        <source>&amp;Alias</source>
+        <translation>Al&amp;ias</translation>
+    </message>
+    <message>
+        <source>&amp;Code variable</source>
+        <translation>Variable de &amp;código</translation>
+    </message>
+    <message>
+        <source>&amp;Weight variable</source>
+        <translation>Variable de ponde&amp;rador</translation>
+    </message>
+    <message>
+        <source>&amp;Selectable</source>
+        <translation>Se&amp;leccionable</translation>
+    </message>
+    <message>
+        <source>D&amp;ocumentation</source>
+        <translation>Docume&amp;ntación</translation>
+    </message>
+    <message>
+        <source>Label var&amp;iable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Virt&amp;ual</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityPane</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>cambio de nombre de %1</translation>
+    </message>
+    <message>
+        <source>Delete entity</source>
+        <translation>Eliminar entidad</translation>
+    </message>
+    <message>
+        <source>%1 goes with its variables and all entities below it. Delete?</source>
+        <translation>%1 se elimina con sus variables y con todas las entidades que están por debajo. ¿Eliminar?</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ExpressionDialog</name>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double-click in the lists, drag from them, or write here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xpression:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The expression is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show entities and variables by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names and labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>&amp;Insert entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>Insert va&amp;riable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ca&amp;tegories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert cate&amp;gory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inserts %1 at the cursor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Copies the whole expression (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variables of an entity are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no categories.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The categories of a variable are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FileHandling</name>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, línea %2, columna %3: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Open dictionary</source>
+        <translation>Abrir diccionario</translation>
+    </message>
+    <message>
+        <source>Dictionaries (*.json);;All files (*)</source>
+        <translation>Diccionarios (*.json);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 opened.</source>
+        <translation>Se abrió %1.</translation>
+    </message>
+    <message>
+        <source>a dictionary that has no file yet</source>
+        <translation>un diccionario que aún no tiene archivo</translation>
+    </message>
+    <message>
+        <source>Recover unsaved work</source>
+        <translation>Recuperar el trabajo no guardado</translation>
+    </message>
+    <message>
+        <source>The editor ended without saving %1. Go on with the unsaved work?</source>
+        <translation>El editor se cerró sin guardar %1. ¿Continuar con el trabajo no guardado?</translation>
+    </message>
+    <message>
+        <source>The unsaved work of %1 is back; save it to keep it.</source>
+        <translation>Se recuperó el trabajo no guardado de %1; guárdelo para conservarlo.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1 before it is closed?</source>
+        <translation>¿Guardar los cambios antes de cerrar %1?</translation>
+    </message>
+    <message>
+        <source>the new dictionary</source>
+        <translation>el nuevo diccionario</translation>
+    </message>
+    <message>
+        <source>Save dictionary</source>
+        <translation>Guardar diccionario</translation>
+    </message>
+    <message>
+        <source>File changed on disk</source>
+        <translation>El archivo cambió en el disco</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1 since it was opened here. Overwrite those changes?</source>
+        <translation>Otro programa modificó %1 desde que se abrió aquí. ¿Sobrescribir esos cambios?</translation>
+    </message>
+    <message>
+        <source>%1 is not saved; the file is as it was. %2</source>
+        <translation>%1 no se guardó; el archivo sigue como estaba. %2</translation>
+    </message>
+    <message>
+        <source>%1 saved at %2.</source>
+        <translation>%1 se guardó a las %2.</translation>
+    </message>
+    <message>
+        <source>Saving loses something</source>
+        <translation>Al guardar se pierde algo</translation>
+    </message>
+    <message numerus="yes">
+        <source>The opened file holds %n values that dictionaries do not keep. Save all the same?</source>
+        <translation>
+            <numerusform>El archivo abierto contiene %n valor que los diccionarios no conservan. ¿Guardar de todos modos?</numerusform>
+            <numerusform>El archivo abierto contiene %n valores que los diccionarios no conservan. ¿Guardar de todos modos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again and lose the changes made here?</source>
+        <translation>Otro programa modificó %1. ¿Leerlo de nuevo y perder los cambios hechos aquí?</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again?</source>
+        <translation>Otro programa modificó %1. ¿Leerlo de nuevo?</translation>
+    </message>
+    <message>
+        <source>The unsaved work was put aside as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FormPane</name>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>cambio de «%1» en %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LabelPane</name>
+    <message>
+        <source>Value labels</source>
+        <translation>Etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>Search codes and labels</source>
+        <translation>Buscar códigos y etiquetas</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its value labels.</source>
+        <translation>Elija una variable para ver sus etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>No value labels yet. Press Ins, or paste codes and labels from a spreadsheet.</source>
+        <translation>Aún no hay etiquetas de valor. Presione Ins o pegue códigos y etiquetas de una hoja de cálculo.</translation>
+    </message>
+    <message>
+        <source>change %1 of label %2</source>
+        <translation>cambio de «%1» en la etiqueta %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels pasted.</source>
+        <translation>
+            <numerusform>Se pegó %n etiqueta.</numerusform>
+            <numerusform>Se pegaron %n etiquetas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The clipboard holds no lines of codes and labels.</source>
+        <translation>El portapapeles no contiene líneas de códigos y etiquetas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels copied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupList</name>
+    <message>
+        <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>se esperaba texto en UTF-8 y se encontró UTF-16; guarde el archivo en UTF-8</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupSourceTab</name>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a list of lookups in JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups to see them here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of lookups is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists of lookups (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 lookup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n lookups.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Guardar c&amp;omo…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Ctrl+W</source>
+        <translation>Ctrl+W</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Aún no hay archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Z</source>
+        <translation>Ctrl+Shift+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Agregar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Move u&amp;p</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy labels</source>
+        <translation>&amp;Copiar etiquetas</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ste labels</source>
+        <translation>&amp;Pegar etiquetas</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>B&amp;uscar</translation>
+    </message>
+    <message>
+        <source>C&amp;lear search</source>
+        <translation>&amp;Limpiar búsqueda</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>&amp;Labels, ranges, properties</source>
+        <translation>E&amp;tiquetas, rangos, propiedades</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>&amp;Fuentes</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Problemas</translation>
+    </message>
+    <message>
+        <source>&amp;Docks</source>
+        <translation>Pane&amp;les</translation>
+    </message>
+    <message>
+        <source>&amp;Order of the dictionary</source>
+        <translation>&amp;Orden del diccionario</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>The language changes when the editor starts the next time.</source>
+        <translation>El idioma cambiará la próxima vez que se inicie el editor.</translation>
+    </message>
+    <message>
+        <source>&amp;Dictionary</source>
+        <translation>&amp;Diccionario</translation>
+    </message>
+    <message>
+        <source>Add &amp;entity</source>
+        <translation>Agregar &amp;entidad</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+E</source>
+        <translation>Ctrl+Shift+E</translation>
+    </message>
+    <message>
+        <source>Add &amp;variable</source>
+        <translation>Agregar &amp;variable</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Add &amp;label</source>
+        <translation>Agregar e&amp;tiqueta</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Add &amp;range</source>
+        <translation>Agregar &amp;rango</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Copy labels to &amp;other variables…</source>
+        <translation>Copiar etiquetas a &amp;otras variables…</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression…</source>
+        <translation>E&amp;xpresión…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Check now</source>
+        <translation>&amp;Comprobar ahora</translation>
+    </message>
+    <message>
+        <source>&amp;Next problem</source>
+        <translation>Problema &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Choose the variable whose labels are to be copied first.</source>
+        <translation>Elija primero la variable cuyas etiquetas se van a copiar.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Proceso</translation>
+    </message>
+    <message>
+        <source>&amp;New run…</source>
+        <translation>&amp;Nuevo proceso…</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>&amp;Open run…</source>
+        <translation>&amp;Abrir proceso…</translation>
+    </message>
+    <message>
+        <source>Open run</source>
+        <translation>Abrir proceso</translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configuraciones de proceso (*.json);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>A&amp;tajos de teclado</translation>
+    </message>
+    <message>
+        <source>&amp;About Tessel</source>
+        <translation>&amp;Acerca de Tessel</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ges</source>
+        <translation>Ran&amp;gos</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>Propiedade&amp;s</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Problemas (%1)</translation>
+    </message>
+    <message>
+        <source>%1 ▸ variables</source>
+        <translation>%1 ▸ variables</translation>
+    </message>
+    <message>
+        <source>%1[*] — Tessel</source>
+        <translation>%1[*] — Tessel</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Diccionario nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entidad</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variable</numerusform>
+            <numerusform>%n variables</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels</source>
+        <translation>
+            <numerusform>%n etiqueta</numerusform>
+            <numerusform>%n etiquetas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Saving would lose or change %n values that the file holds.</source>
+        <translation>
+            <numerusform>Al guardar se perdería o cambiaría %n valor que contiene el archivo.</numerusform>
+            <numerusform>Al guardar se perderían o cambiarían %n valores que contiene el archivo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the sa&amp;mple census</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>La&amp;bels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entit&amp;y</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::NoticeBar</name>
+    <message>
+        <source>&amp;Details</source>
+        <translation>De&amp;talles</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::OptionsPage</name>
+    <message>
+        <source>Create not-applicable and &amp;missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no &amp;ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the database is built, as a whole and entity by entity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create not-applicable and missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of each entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record type that tells the entity&apos;s records in the source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createCompound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createSDC.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sequence of the entity&apos;s records is checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options of each entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ProblemsPane</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RangePane</name>
+    <message>
+        <source>Ranges</source>
+        <translation>Rangos</translation>
+    </message>
+    <message>
+        <source>Search ranges</source>
+        <translation>Buscar rangos</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its valid ranges.</source>
+        <translation>Elija una variable para ver sus rangos válidos.</translation>
+    </message>
+    <message>
+        <source>No ranges: every value is valid. Press Ins to add one.</source>
+        <translation>Sin rangos: todo valor es válido. Presione Ins para agregar uno.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>cambio de «%1» en %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunPlan</name>
+    <message>
+        <source>is a dictionary, not a run configuration; open it with File, Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunWizard</name>
+    <message>
+        <source>%1: %2.</source>
+        <translation type="unfinished">%1: %2. {1:?}</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4.</source>
+        <translation type="unfinished">%1, línea %2, columna %3: %4. {1,?} {2,?} {3:?}</translation>
+    </message>
+    <message>
+        <source>Run wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run has changes that are not saved. Throw them away?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run.json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configuraciones de proceso (*.json);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>%1: holds the dictionary itself; choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchField</name>
+    <message>
+        <source>Search with a pattern (regular expression)</source>
+        <translation>Buscar con un patrón (expresión regular)</translation>
+    </message>
+    <message>
+        <source>Search with a pattern</source>
+        <translation>Buscar con un patrón</translation>
+    </message>
+    <message>
+        <source>Rows shown</source>
+        <translation>Filas mostradas</translation>
+    </message>
+    <message>
+        <source>This is no pattern: %1.</source>
+        <translation>Esto no es un patrón: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchLine</name>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text or a regular expression; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no valid regular expression: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SelectionPage</name>
+    <message>
+        <source>Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables taken of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Selection:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to an entity to see its variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceFilter</name>
+    <message>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceTab</name>
+    <message>
+        <source>&amp;Add to table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a file for: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the selected rows to the table of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row matches the filter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourcesPane</name>
+    <message>
+        <source>Sources of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::StartPage</name>
+    <message>
+        <source>Describe a census or a survey</source>
+        <translation>Describir un censo o una encuesta</translation>
+    </message>
+    <message>
+        <source>A dictionary holds the entities, their variables and value labels.</source>
+        <translation>Un diccionario contiene las entidades, sus variables y etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>&amp;New dictionary</source>
+        <translation>&amp;Nuevo diccionario</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message>
+        <source>Look at the &amp;sample census</source>
+        <translation>Ver el censo de e&amp;jemplo</translation>
+    </message>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>Archivos &amp;recientes</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Archivos recientes</translation>
+    </message>
+    <message>
+        <source>%1  —  %2</source>
+        <translation>%1  —  %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::Structure</name>
+    <message>
+        <source>add %1</source>
+        <translation>adición de %1</translation>
+    </message>
+    <message>
+        <source>delete %1</source>
+        <translation>eliminación de %1</translation>
+    </message>
+    <message>
+        <source>move %1</source>
+        <translation>traslado de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>delete %n variables</source>
+        <translation>
+            <numerusform>eliminación de %n variable</numerusform>
+            <numerusform>eliminación de %n variables</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>move %n variables</source>
+        <translation>
+            <numerusform>traslado de %n variable</numerusform>
+            <numerusform>traslado de %n variables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>add label %1 to %2</source>
+        <translation>adición de la etiqueta %1 a %2</translation>
+    </message>
+    <message>
+        <source>delete labels of %1</source>
+        <translation>eliminación de etiquetas de %1</translation>
+    </message>
+    <message>
+        <source>move labels of %1</source>
+        <translation>traslado de etiquetas de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>paste %n labels</source>
+        <translation>
+            <numerusform>pegado de %n etiqueta</numerusform>
+            <numerusform>pegado de %n etiquetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>copy labels of %1</source>
+        <translation>copia de etiquetas de %1</translation>
+    </message>
+    <message>
+        <source>add range to %1</source>
+        <translation>adición de un rango a %1</translation>
+    </message>
+    <message>
+        <source>delete ranges of %1</source>
+        <translation>eliminación de rangos de %1</translation>
+    </message>
+    <message>
+        <source>move ranges of %1</source>
+        <translation>traslado de rangos de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SummaryPage</name>
+    <message>
+        <source>Kept, though the dictionary does not have them:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Finish writes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run &quot;%1&quot; takes %2 and %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to a file that you are asked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TablePane</name>
+    <message>
+        <source>The table is sorted; choose View, Order of the dictionary to move rows.</source>
+        <translation>La tabla está ordenada; para mover filas, elija Ver, Orden del diccionario.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TableView</name>
+    <message>
+        <source>Nothing matches the search. Esc clears it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariableForm</name>
+    <message>
+        <source>&amp;Type</source>
+        <translation>&amp;Tipo</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>Ta&amp;maño</translation>
+    </message>
+    <message>
+        <source>&amp;Missing</source>
+        <translation>&amp;Omitido</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Inicio</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>Longit&amp;ud</translation>
+    </message>
+    <message>
+        <source>De&amp;cimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not &amp;applicable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rec&amp;ord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ield</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Doc&amp;umentation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablePane</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Buscar variables</translation>
+    </message>
+    <message>
+        <source>Choose an entity to see its variables.</source>
+        <translation>Elija una entidad para ver sus variables.</translation>
+    </message>
+    <message>
+        <source>No variables yet. Drag fields from Sources, or press Ins.</source>
+        <translation>Aún no hay variables. Arrastre campos desde Fuentes o presione Ins.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>cambio de «%1» en %2</translation>
+    </message>
+    <message>
+        <source>Delete variables</source>
+        <translation>Eliminar variables</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the variables have value labels or ranges, which go with them. Delete?</source>
+        <translation>
+            <numerusform>%n de las variables tiene etiquetas de valor o rangos, que se eliminan con ella. ¿Eliminar?</numerusform>
+            <numerusform>%n de las variables tienen etiquetas de valor o rangos, que se eliminan con ellas. ¿Eliminar?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose the entity that is to have the fields first.</source>
+        <translation>Elija primero la entidad que recibirá los campos.</translation>
+    </message>
+    <message>
+        <source>add fields to %1</source>
+        <translation>adición de campos a %1</translation>
+    </message>
+    <message>
+        <source>No field was added.</source>
+        <translation>No se agregó ningún campo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables added to %1.</source>
+        <translation>
+            <numerusform>Se agregó %n variable a %1.</numerusform>
+            <numerusform>Se agregaron %n variables a %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>cambio de nombre de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablesPage</name>
+    <message>
+        <source>All &amp;variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the ticks that are shown over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes every variable, also those that the dictionary gets later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Buscar variables</translation>
+    </message>
+    <message>
+        <source>Variables of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (all)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not a valid pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::WizardText</name>
+    <message>
+        <source>1 entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entidad</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variable</numerusform>
+            <numerusform>%n variables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+</TS>

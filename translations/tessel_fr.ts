@@ -1,0 +1,2301 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>DictionaryTreeModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as a group name</source>
+        <translation>Le nom de l&apos;entité existe déjà comme nom de groupe</translation>
+    </message>
+    <message>
+        <source>Entity name already exists</source>
+        <translation>Le nom de l&apos;entité existe déjà</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as an alias name</source>
+        <translation>Le nom de l&apos;entité existe déjà comme alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Chaîne non valide</translation>
+    </message>
+    <message>
+        <source>Chain with length greater than 50</source>
+        <translation>Chaîne de longueur supérieure à 50</translation>
+    </message>
+</context>
+<context>
+    <name>EntityModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+</context>
+<context>
+    <name>UtilForms</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>VarRangeModel</name>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+</context>
+<context>
+    <name>VarValueLabelDiccionaryModel</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDiccionaryModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists</source>
+        <translation>La chaîne de caractères saisie existe déjà</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists as the alias of a variable</source>
+        <translation>La chaîne de caractères saisie existe déjà comme alias d&apos;une variable</translation>
+    </message>
+    <message>
+        <source>The value already exists as the name/alias of a variable alias </source>
+        <translation>La valeur existe déjà comme nom/alias d&apos;un alias de variable </translation>
+    </message>
+    <message>
+        <source>The value already exists as the name-entity/name-variable/alias</source>
+        <translation>La valeur existe déjà comme nom d&apos;entité/nom de variable/alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Chaîne non valide</translation>
+    </message>
+    <message>
+        <source>RefCode Variable</source>
+        <translation>Variable RefCode</translation>
+    </message>
+    <message>
+        <source>Variable identified as RefCode.
+Keep it as RefCode?</source>
+        <translation>Variable identifiée comme RefCode.
+La conserver comme RefCode&#xa0;?</translation>
+    </message>
+    <message>
+        <source>already exists.</source>
+        <translation>existe déjà.</translation>
+    </message>
+    <message>
+        <source>Overwrite?</source>
+        <translation>Écraser&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Overwrite variable</source>
+        <translation>Écraser la variable</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Duplicated names</source>
+        <translation>Noms en double</translation>
+    </message>
+    <message>
+        <source>Error creating</source>
+        <translation>Erreur lors de la création de</translation>
+    </message>
+    <message>
+        <source>Must be selectable entity.</source>
+        <translation>L&apos;entité doit être sélectionnable.</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelDownStep4</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelSplitStep3</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>dictionaryTreeModelDownload</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Describes censuses and surveys: entities, variables, value labels.</source>
+        <translation>Décrit recensements et enquêtes&#xa0;: entités, variables, libellés de valeur.</translation>
+    </message>
+    <message>
+        <source>Write debug lines to standard error.</source>
+        <translation>Écrit des lignes de débogage sur la sortie d&apos;erreur standard.</translation>
+    </message>
+    <message>
+        <source>Save what the window shows to &lt;file&gt; and end.</source>
+        <translation>Enregistre ce que montre la fenêtre dans &lt;file&gt;, puis se termine.</translation>
+    </message>
+    <message>
+        <source>Go to the place that &lt;pointer&gt; names, as &quot;tessel check&quot; prints it.</source>
+        <translation>Va à l&apos;endroit que désigne &lt;pointer&gt;, tel que l&apos;affiche &quot;tessel check&quot;.</translation>
+    </message>
+    <message>
+        <source>End as soon as the window is there, to try an installation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary to open.</source>
+        <translation>Le dictionnaire à ouvrir.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents</name>
+    <message>
+        <source>expected an object at the top, found an array</source>
+        <translation>un objet était attendu au premier niveau, un tableau s&apos;y trouve</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a text</source>
+        <translation>un objet était attendu au premier niveau, un texte s&apos;y trouve</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a number</source>
+        <translation>un objet était attendu au premier niveau, un nombre s&apos;y trouve</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found %1</source>
+        <translation>un objet était attendu au premier niveau, %1 s&apos;y trouve</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>ne peut pas être lu&#xa0;: c&apos;est un dossier&#xa0;; indiquez un fichier</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is larger than 1 GiB; expected a smaller document</source>
+        <translation>dépasse 1 Gio&#xa0;; un document plus petit était attendu</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>un texte en UTF-8 était attendu, il est en UTF-16&#xa0;; enregistrez le fichier en UTF-8</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found nothing: the file is empty</source>
+        <translation>un objet était attendu au premier niveau, rien ne s&apos;y trouve&#xa0;: le fichier est vide</translation>
+    </message>
+    <message>
+        <source>cannot be written: it is a folder; name a file</source>
+        <translation>ne peut pas être écrit&#xa0;: c&apos;est un dossier&#xa0;; indiquez un fichier</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>ne peut pas être écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1; nothing was changed</source>
+        <translation>ne peut pas être écrit&#xa0;: %1&#xa0;; rien n&apos;a été modifié</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; or &quot;}&quot; after a value in an object</source>
+        <translation>&quot;,&quot; ou &quot;}&quot; était attendu après une valeur dans un objet</translation>
+    </message>
+    <message>
+        <source>expected &quot;:&quot; after a key</source>
+        <translation>&quot;:&quot; était attendu après une clé</translation>
+    </message>
+    <message>
+        <source>expected &quot;]&quot; at the end of an array</source>
+        <translation>&quot;]&quot; était attendu à la fin d&apos;un tableau</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; between two values</source>
+        <translation>&quot;,&quot; était attendu entre deux valeurs</translation>
+    </message>
+    <message>
+        <source>expected a value: an object, an array, a text in double quotes, a number, true, false or null</source>
+        <translation>une valeur était attendue&#xa0;: un objet, un tableau, un texte entre guillemets doubles, un nombre, true, false ou null</translation>
+    </message>
+    <message>
+        <source>expected the rest of the document after a number</source>
+        <translation>la suite du document était attendue après un nombre</translation>
+    </message>
+    <message>
+        <source>expected a number that JSON and double precision can hold</source>
+        <translation>un nombre représentable en JSON et en double précision était attendu</translation>
+    </message>
+    <message>
+        <source>expected one of \&quot; \\ \/ \b \f \n \r \t \uXXXX after a backslash</source>
+        <translation>une des séquences \&quot; \\ \/ \b \f \n \r \t \uXXXX était attendue avec la barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8; save the file in that encoding</source>
+        <translation>un texte en UTF-8 était attendu&#xa0;; enregistrez le fichier dans ce codage</translation>
+    </message>
+    <message>
+        <source>expected a double quote at the end of a text</source>
+        <translation>un guillemet double était attendu à la fin d&apos;un texte</translation>
+    </message>
+    <message>
+        <source>expected a key in double quotes</source>
+        <translation>une clé entre guillemets doubles était attendue</translation>
+    </message>
+    <message>
+        <source>objects and arrays stand more than 1024 deep in one another; expected fewer levels</source>
+        <translation>des objets et des tableaux sont imbriqués sur plus de 1024 niveaux&#xa0;; moins de niveaux étaient attendus</translation>
+    </message>
+    <message>
+        <source>the document is too large; expected fewer values</source>
+        <translation>le document est trop grand&#xa0;; moins de valeurs étaient attendues</translation>
+    </message>
+    <message>
+        <source>expected nothing more after the end of the document</source>
+        <translation>rien d&apos;autre n&apos;était attendu après la fin du document</translation>
+    </message>
+    <message>
+        <source>expected a JSON document</source>
+        <translation>un document JSON était attendu</translation>
+    </message>
+    <message>
+        <source>%1, but the file ends here; it may have been cut off</source>
+        <translation>%1, mais le fichier s&apos;arrête ici&#xa0;; il a peut-être été tronqué</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::Loss</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 n&apos;est pas écrit</translation>
+    </message>
+    <message>
+        <source>%1 is written as %2</source>
+        <translation>%1 est écrit sous la forme %2</translation>
+    </message>
+    <message>
+        <source>the key is given more than once and only one of its values is kept</source>
+        <translation>la clé figure plusieurs fois et une seule de ses valeurs est conservée</translation>
+    </message>
+    <message>
+        <source>what stands here is not JSON as other programs read it; it was read as well as could be</source>
+        <translation>ce qui figure ici n&apos;est pas du JSON tel que le lisent d&apos;autres programmes&#xa0;; la lecture a été faite au mieux</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::NameCheck</name>
+    <message>
+        <source>the dictionary itself</source>
+        <translation>le dictionnaire lui-même</translation>
+    </message>
+    <message>
+        <source>the entity has no name; give it one</source>
+        <translation>l&apos;entité n&apos;a pas de nom&#xa0;; donnez-lui-en un</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name is a letter or _ followed by letters, digits and _</source>
+        <translation>le nom d&apos;une entité est une lettre ou _, suivie de lettres, de chiffres et de _</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name holds no control character, double quote or backslash</source>
+        <translation>le nom d&apos;une entité ne contient ni caractère de contrôle, ni guillemet double, ni barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name has at most %1 characters; this one has %2</source>
+        <translation>le nom d&apos;une entité compte au plus %1 caractères&#xa0;; celui-ci en a %2</translation>
+    </message>
+    <message>
+        <source>the name is already that of %1; rename one of them</source>
+        <translation>%1 porte déjà ce nom&#xa0;; renommez l&apos;un des deux</translation>
+    </message>
+    <message>
+        <source>the name is also an alias of an entity; change one of them</source>
+        <translation>ce nom est aussi l&apos;alias d&apos;une entité&#xa0;; changez l&apos;un des deux</translation>
+    </message>
+    <message>
+        <source>the name is also a group of variables; change one of them</source>
+        <translation>ce nom est aussi un groupe de variables&#xa0;; changez l&apos;un des deux</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::VariableFindings</name>
+    <message>
+        <source>a variable&apos;s label holds no control character, double quote or backslash</source>
+        <translation>le libellé d&apos;une variable ne contient ni caractère de contrôle, ni guillemet double, ni barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>%1 is no type; a variable is a string, integer, real or bool</source>
+        <translation>%1 n&apos;est pas un type&#xa0;; une variable est string, integer, real ou bool</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s code, is none of its variables; choose one or add it</source>
+        <translation>%1, qui doit contenir le code de l&apos;entité, n&apos;est pas une de ses variables&#xa0;; choisissez-en une ou ajoutez-la</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s label, is none of its variables; choose one or add it</source>
+        <translation>%1, qui doit contenir le libellé de l&apos;entité, n&apos;est pas une de ses variables&#xa0;; choisissez-en une ou ajoutez-la</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s weight, is none of its variables; choose one or add it</source>
+        <translation>%1, qui doit contenir la pondération de l&apos;entité, n&apos;est pas une de ses variables&#xa0;; choisissez-en une ou ajoutez-la</translation>
+    </message>
+    <message>
+        <source>a variable&apos;s name holds no control character, double quote or backslash</source>
+        <translation>le nom d&apos;une variable ne contient ni caractère de contrôle, ni guillemet double, ni barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>the name is already that of a variable before it; rename one of them</source>
+        <translation>une variable précédente porte déjà ce nom&#xa0;; renommez l&apos;une des deux</translation>
+    </message>
+    <message>
+        <source>the name is also that of an entity; rename one of them</source>
+        <translation>une entité porte aussi ce nom&#xa0;; renommez l&apos;une des deux</translation>
+    </message>
+    <message>
+        <source>the code %1 is no such number as the variable&apos;s type wants and would be saved as 0; change the code or the type</source>
+        <translation>le code %1 n&apos;est pas un nombre conforme au type de la variable et serait enregistré comme 0&#xa0;; changez le code ou le type</translation>
+    </message>
+    <message>
+        <source>the minimum %1 is above the maximum %2; exchange them</source>
+        <translation>le minimum %1 est supérieur au maximum %2&#xa0;; échangez-les</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor</name>
+    <message>
+        <source>About Tessel</source>
+        <translation>À propos de Tessel</translation>
+    </message>
+    <message>
+        <source>Tessel %1
+
+Data dictionaries for hierarchical statistical databases.</source>
+        <translation>Tessel %1
+
+Dictionnaires de données pour bases de données statistiques hiérarchiques.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>Does</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Type into the cell</source>
+        <translation>Saisir dans la cellule</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tableaux</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Keep what was typed and go to the next row</source>
+        <translation>Conserver la saisie et passer à la ligne suivante</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, ligne %2, colonne %3&#xa0;: %4</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::AutoSave</name>
+    <message>
+        <source>No copy of the unsaved work could be kept in %1: %2.</source>
+        <translation>Aucune copie du travail non enregistré n&apos;a pu être conservée dans %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CopyLabelsDialog</name>
+    <message>
+        <source>Copy labels</source>
+        <translation>Copier les libellés</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Variables that are to have the %n labels of %1 in place of their own:</source>
+        <translation>
+            <numerusform>&amp;Variables qui recevront %n libellé de %1 à la place des leurs&#xa0;:</numerusform>
+            <numerusform>&amp;Variables qui recevront les %n libellés de %1 à la place des leurs&#xa0;:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvSourceTab</name>
+    <message>
+        <source>CSV fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a CSV file; only its header is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Separator of the CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stands between the fields; a choice reads the header again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Separator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields in %2.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Separator: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatabasePage</name>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the folder of the database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values that saving does not keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which database is built, where, and from which source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder in which the database is built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The main source file, whose records the dictionary describes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Source file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the database a name to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving loses or changes these values of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatasetSourceTab</name>
+    <message>
+        <source>Dataset fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a dataset; only the description of its fields is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a dataset to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dataset has no fields.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DictionaryDocument</name>
+    <message>
+        <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
+        <translation>est une configuration de traitement, pas un dictionnaire&#xa0;; ouvrez-la par Traitement, Ouvrir un traitement</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntitiesPage</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entités</translation>
+    </message>
+    <message>
+        <source>Which entities of the dictionary take part in the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick the entities, with the mouse or the space bar:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet; add some before you plan a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick at least one entity to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityForm</name>
+    <message>
+        <source>&amp;Label</source>
+        <translation>Li&amp;bellé</translation>
+    </message>
+    <message>
+        <source>&amp;Alias</source>
+        <translation>Al&amp;ias</translation>
+    </message>
+    <message>
+        <source>&amp;Code variable</source>
+        <translation>Variable de c&amp;ode</translation>
+    </message>
+    <message>
+        <source>&amp;Weight variable</source>
+        <translation>&amp;Variable de pondération</translation>
+    </message>
+    <message>
+        <source>&amp;Selectable</source>
+        <translation>&amp;Sélectionnable</translation>
+    </message>
+    <message>
+        <source>D&amp;ocumentation</source>
+        <translation>Docu&amp;mentation</translation>
+    </message>
+    <message>
+        <source>Label var&amp;iable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Virt&amp;ual</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityPane</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entités</translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>renommage de %1</translation>
+    </message>
+    <message>
+        <source>Delete entity</source>
+        <translation>Supprimer l&apos;entité</translation>
+    </message>
+    <message>
+        <source>%1 goes with its variables and all entities below it. Delete?</source>
+        <translation>%1 disparaît avec ses variables et toutes les entités situées au-dessous. Supprimer&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ExpressionDialog</name>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double-click in the lists, drag from them, or write here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xpression:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The expression is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show entities and variables by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names and labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entités</translation>
+    </message>
+    <message>
+        <source>&amp;Insert entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>Insert va&amp;riable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ca&amp;tegories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert cate&amp;gory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inserts %1 at the cursor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Copies the whole expression (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variables of an entity are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no categories.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The categories of a variable are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FileHandling</name>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, ligne %2, colonne %3&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Open dictionary</source>
+        <translation>Ouvrir un dictionnaire</translation>
+    </message>
+    <message>
+        <source>Dictionaries (*.json);;All files (*)</source>
+        <translation>Dictionnaires (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 opened.</source>
+        <translation>%1 est ouvert.</translation>
+    </message>
+    <message>
+        <source>a dictionary that has no file yet</source>
+        <translation>un dictionnaire qui n&apos;a pas encore de fichier</translation>
+    </message>
+    <message>
+        <source>Recover unsaved work</source>
+        <translation>Récupérer le travail non enregistré</translation>
+    </message>
+    <message>
+        <source>The editor ended without saving %1. Go on with the unsaved work?</source>
+        <translation>L&apos;éditeur s&apos;est arrêté sans enregistrer %1. Reprendre le travail non enregistré&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The unsaved work of %1 is back; save it to keep it.</source>
+        <translation>Le travail non enregistré est rétabli dans %1&#xa0;; enregistrez-le pour le conserver.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1 before it is closed?</source>
+        <translation>Enregistrer les modifications avant de fermer %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>the new dictionary</source>
+        <translation>le nouveau dictionnaire</translation>
+    </message>
+    <message>
+        <source>Save dictionary</source>
+        <translation>Enregistrer le dictionnaire</translation>
+    </message>
+    <message>
+        <source>File changed on disk</source>
+        <translation>Fichier modifié sur le disque</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1 since it was opened here. Overwrite those changes?</source>
+        <translation>Un autre programme a modifié %1 depuis son ouverture ici. Écraser ces modifications&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 is not saved; the file is as it was. %2</source>
+        <translation>%1 n&apos;est pas enregistré&#xa0;; le fichier est resté tel quel. %2</translation>
+    </message>
+    <message>
+        <source>%1 saved at %2.</source>
+        <translation>%1 enregistré à %2.</translation>
+    </message>
+    <message>
+        <source>Saving loses something</source>
+        <translation>L&apos;enregistrement entraîne une perte</translation>
+    </message>
+    <message numerus="yes">
+        <source>The opened file holds %n values that dictionaries do not keep. Save all the same?</source>
+        <translation>
+            <numerusform>Le fichier ouvert contient %n valeur que les dictionnaires ne conservent pas. Enregistrer quand même&#xa0;?</numerusform>
+            <numerusform>Le fichier ouvert contient %n valeurs que les dictionnaires ne conservent pas. Enregistrer quand même&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again and lose the changes made here?</source>
+        <translation>Un autre programme a modifié %1. Le relire et perdre les modifications faites ici&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again?</source>
+        <translation>Un autre programme a modifié %1. Le relire&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The unsaved work was put aside as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FormPane</name>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>modification de «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LabelPane</name>
+    <message>
+        <source>Value labels</source>
+        <translation>Libellés de valeur</translation>
+    </message>
+    <message>
+        <source>Search codes and labels</source>
+        <translation>Rechercher codes et libellés</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its value labels.</source>
+        <translation>Choisissez une variable pour voir ses libellés de valeur.</translation>
+    </message>
+    <message>
+        <source>No value labels yet. Press Ins, or paste codes and labels from a spreadsheet.</source>
+        <translation>Pas encore de libellés de valeur. Appuyez sur Inser ou collez des codes et des libellés depuis un tableur.</translation>
+    </message>
+    <message>
+        <source>change %1 of label %2</source>
+        <translation>modification de «&#xa0;%1&#xa0;» dans le libellé %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels pasted.</source>
+        <translation>
+            <numerusform>%n libellé collé.</numerusform>
+            <numerusform>%n libellés collés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The clipboard holds no lines of codes and labels.</source>
+        <translation>Le presse-papiers ne contient pas de lignes de codes et de libellés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels copied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupList</name>
+    <message>
+        <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>un texte en UTF-8 était attendu, il est en UTF-16&#xa0;; enregistrez le fichier en UTF-8</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupSourceTab</name>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a list of lookups in JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups to see them here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of lookups is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists of lookups (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 lookup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n lookups.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Ouvrir un fichier &amp;récent</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Ctrl+W</source>
+        <translation>Ctrl+W</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Pas encore de fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Z</source>
+        <translation>Ctrl+Shift+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>A&amp;jouter</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Move u&amp;p</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>&amp;Copy labels</source>
+        <translation>&amp;Copier les libellés</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ste labels</source>
+        <translation>C&amp;oller les libellés</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>Rec&amp;hercher</translation>
+    </message>
+    <message>
+        <source>C&amp;lear search</source>
+        <translation>&amp;Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entités</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>&amp;Labels, ranges, properties</source>
+        <translation>&amp;Libellés, plages, propriétés</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>&amp;Sources</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Problèmes</translation>
+    </message>
+    <message>
+        <source>&amp;Docks</source>
+        <translation>Pa&amp;nneaux</translation>
+    </message>
+    <message>
+        <source>&amp;Order of the dictionary</source>
+        <translation>&amp;Ordre du dictionnaire</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>Lan&amp;gue</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>The language changes when the editor starts the next time.</source>
+        <translation>La langue changera au prochain démarrage de l&apos;éditeur.</translation>
+    </message>
+    <message>
+        <source>&amp;Dictionary</source>
+        <translation>Di&amp;ctionnaire</translation>
+    </message>
+    <message>
+        <source>Add &amp;entity</source>
+        <translation>Ajouter une &amp;entité</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+E</source>
+        <translation>Ctrl+Shift+E</translation>
+    </message>
+    <message>
+        <source>Add &amp;variable</source>
+        <translation>Ajouter une &amp;variable</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Add &amp;label</source>
+        <translation>Ajouter un &amp;libellé</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Add &amp;range</source>
+        <translation>Ajouter une &amp;plage</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Copy labels to &amp;other variables…</source>
+        <translation>Copier les libellés vers d&apos;&amp;autres variables…</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression…</source>
+        <translation>E&amp;xpression…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Check now</source>
+        <translation>Vérifier &amp;maintenant</translation>
+    </message>
+    <message>
+        <source>&amp;Next problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous problem</source>
+        <translation>Problème p&amp;récédent</translation>
+    </message>
+    <message>
+        <source>Choose the variable whose labels are to be copied first.</source>
+        <translation>Choisissez d&apos;abord la variable dont les libellés sont à copier.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Traitement</translation>
+    </message>
+    <message>
+        <source>&amp;New run…</source>
+        <translation>&amp;Nouveau traitement…</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>&amp;Open run…</source>
+        <translation>&amp;Ouvrir un traitement…</translation>
+    </message>
+    <message>
+        <source>Open run</source>
+        <translation>Ouvrir un traitement</translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configurations de traitement (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>&amp;About Tessel</source>
+        <translation>À &amp;propos de Tessel</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ges</source>
+        <translation>Pla&amp;ges</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Propriétés</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entités</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Sources</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Problèmes (%1)</translation>
+    </message>
+    <message>
+        <source>%1 ▸ variables</source>
+        <translation>%1 ▸ variables</translation>
+    </message>
+    <message>
+        <source>%1[*] — Tessel</source>
+        <translation>%1[*] — Tessel</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Nouveau dictionnaire</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entité</numerusform>
+            <numerusform>%n entités</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variable</numerusform>
+            <numerusform>%n variables</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels</source>
+        <translation>
+            <numerusform>%n libellé</numerusform>
+            <numerusform>%n libellés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Saving would lose or change %n values that the file holds.</source>
+        <translation>
+            <numerusform>L&apos;enregistrement perdrait ou modifierait %n valeur contenue dans le fichier.</numerusform>
+            <numerusform>L&apos;enregistrement perdrait ou modifierait %n valeurs contenues dans le fichier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the sa&amp;mple census</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>La&amp;bels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entit&amp;y</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::NoticeBar</name>
+    <message>
+        <source>&amp;Details</source>
+        <translation>Détail&amp;s</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::OptionsPage</name>
+    <message>
+        <source>Create not-applicable and &amp;missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no &amp;ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the database is built, as a whole and entity by entity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create not-applicable and missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of each entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record type that tells the entity&apos;s records in the source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createCompound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createSDC.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sequence of the entity&apos;s records is checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options of each entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ProblemsPane</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RangePane</name>
+    <message>
+        <source>Ranges</source>
+        <translation>Plages</translation>
+    </message>
+    <message>
+        <source>Search ranges</source>
+        <translation>Rechercher des plages</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its valid ranges.</source>
+        <translation>Choisissez une variable pour voir ses plages valides.</translation>
+    </message>
+    <message>
+        <source>No ranges: every value is valid. Press Ins to add one.</source>
+        <translation>Aucune plage&#xa0;: toute valeur est valide. Appuyez sur Inser pour en ajouter une.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>modification de «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunPlan</name>
+    <message>
+        <source>is a dictionary, not a run configuration; open it with File, Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunWizard</name>
+    <message>
+        <source>%1: %2.</source>
+        <translation type="unfinished">%1&#xa0;: %2. {1:?}</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4.</source>
+        <translation type="unfinished">%1, ligne %2, colonne %3&#xa0;: %4. {1,?} {2,?} {3:?}</translation>
+    </message>
+    <message>
+        <source>Run wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run has changes that are not saved. Throw them away?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run.json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configurations de traitement (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1: holds the dictionary itself; choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchField</name>
+    <message>
+        <source>Search with a pattern (regular expression)</source>
+        <translation>Rechercher avec un motif (expression régulière)</translation>
+    </message>
+    <message>
+        <source>Search with a pattern</source>
+        <translation>Rechercher avec un motif</translation>
+    </message>
+    <message>
+        <source>Rows shown</source>
+        <translation>Lignes affichées</translation>
+    </message>
+    <message>
+        <source>This is no pattern: %1.</source>
+        <translation>Ce n&apos;est pas un motif&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchLine</name>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text or a regular expression; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no valid regular expression: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SelectionPage</name>
+    <message>
+        <source>Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables taken of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Selection:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to an entity to see its variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceFilter</name>
+    <message>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceTab</name>
+    <message>
+        <source>&amp;Add to table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a file for: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the selected rows to the table of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row matches the filter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourcesPane</name>
+    <message>
+        <source>Sources of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::StartPage</name>
+    <message>
+        <source>Describe a census or a survey</source>
+        <translation>Décrire un recensement ou une enquête</translation>
+    </message>
+    <message>
+        <source>A dictionary holds the entities, their variables and value labels.</source>
+        <translation>Un dictionnaire contient les entités, leurs variables et leurs libellés de valeur.</translation>
+    </message>
+    <message>
+        <source>&amp;New dictionary</source>
+        <translation>&amp;Nouveau dictionnaire</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Look at the &amp;sample census</source>
+        <translation>Voir le recensement d&apos;e&amp;xemple</translation>
+    </message>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Fichiers récents</translation>
+    </message>
+    <message>
+        <source>%1  —  %2</source>
+        <translation>%1  —  %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::Structure</name>
+    <message>
+        <source>add %1</source>
+        <translation>ajout de %1</translation>
+    </message>
+    <message>
+        <source>delete %1</source>
+        <translation>suppression de %1</translation>
+    </message>
+    <message>
+        <source>move %1</source>
+        <translation>déplacement de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>delete %n variables</source>
+        <translation>
+            <numerusform>suppression de %n variable</numerusform>
+            <numerusform>suppression de %n variables</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>move %n variables</source>
+        <translation>
+            <numerusform>déplacement de %n variable</numerusform>
+            <numerusform>déplacement de %n variables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>add label %1 to %2</source>
+        <translation>ajout du libellé %1 à %2</translation>
+    </message>
+    <message>
+        <source>delete labels of %1</source>
+        <translation>suppression de libellés de %1</translation>
+    </message>
+    <message>
+        <source>move labels of %1</source>
+        <translation>déplacement de libellés de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>paste %n labels</source>
+        <translation>
+            <numerusform>collage de %n libellé</numerusform>
+            <numerusform>collage de %n libellés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>copy labels of %1</source>
+        <translation>copie des libellés de %1</translation>
+    </message>
+    <message>
+        <source>add range to %1</source>
+        <translation>ajout d&apos;une plage à %1</translation>
+    </message>
+    <message>
+        <source>delete ranges of %1</source>
+        <translation>suppression de plages de %1</translation>
+    </message>
+    <message>
+        <source>move ranges of %1</source>
+        <translation>déplacement de plages de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SummaryPage</name>
+    <message>
+        <source>Kept, though the dictionary does not have them:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Finish writes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run &quot;%1&quot; takes %2 and %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to a file that you are asked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TablePane</name>
+    <message>
+        <source>The table is sorted; choose View, Order of the dictionary to move rows.</source>
+        <translation>Le tableau est trié&#xa0;; pour déplacer des lignes, choisissez Affichage, Ordre du dictionnaire.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TableView</name>
+    <message>
+        <source>Nothing matches the search. Esc clears it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariableForm</name>
+    <message>
+        <source>&amp;Type</source>
+        <translation>T&amp;ype</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>Ta&amp;ille</translation>
+    </message>
+    <message>
+        <source>&amp;Missing</source>
+        <translation>Man&amp;quant</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>Dé&amp;but</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>Long&amp;ueur</translation>
+    </message>
+    <message>
+        <source>De&amp;cimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not &amp;applicable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rec&amp;ord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ield</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Doc&amp;umentation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablePane</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Rechercher des variables</translation>
+    </message>
+    <message>
+        <source>Choose an entity to see its variables.</source>
+        <translation>Choisissez une entité pour voir ses variables.</translation>
+    </message>
+    <message>
+        <source>No variables yet. Drag fields from Sources, or press Ins.</source>
+        <translation>Pas encore de variables. Faites glisser des champs depuis Sources ou appuyez sur Inser.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>modification de «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+    <message>
+        <source>Delete variables</source>
+        <translation>Supprimer des variables</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the variables have value labels or ranges, which go with them. Delete?</source>
+        <translation>
+            <numerusform>%n des variables a des libellés de valeur ou des plages, qui disparaissent avec elle. Supprimer&#xa0;?</numerusform>
+            <numerusform>%n des variables ont des libellés de valeur ou des plages, qui disparaissent avec elles. Supprimer&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose the entity that is to have the fields first.</source>
+        <translation>Choisissez d&apos;abord l&apos;entité qui doit recevoir les champs.</translation>
+    </message>
+    <message>
+        <source>add fields to %1</source>
+        <translation>ajout de champs à %1</translation>
+    </message>
+    <message>
+        <source>No field was added.</source>
+        <translation>Aucun champ n&apos;a été ajouté.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables added to %1.</source>
+        <translation>
+            <numerusform>%n variable ajoutée à %1.</numerusform>
+            <numerusform>%n variables ajoutées à %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>renommage de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablesPage</name>
+    <message>
+        <source>All &amp;variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the ticks that are shown over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes every variable, also those that the dictionary gets later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Rechercher des variables</translation>
+    </message>
+    <message>
+        <source>Variables of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (all)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not a valid pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::WizardText</name>
+    <message>
+        <source>1 entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entité</numerusform>
+            <numerusform>%n entités</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variable</numerusform>
+            <numerusform>%n variables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,2301 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>DictionaryTreeModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidade</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as a group name</source>
+        <translation>O nome da entidade já existe como nome de grupo</translation>
+    </message>
+    <message>
+        <source>Entity name already exists</source>
+        <translation>O nome da entidade já existe</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as an alias name</source>
+        <translation>O nome da entidade já existe como alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Cadeia inválida</translation>
+    </message>
+    <message>
+        <source>Chain with length greater than 50</source>
+        <translation>Cadeia com comprimento maior que 50</translation>
+    </message>
+</context>
+<context>
+    <name>EntityModel</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidade</translation>
+    </message>
+</context>
+<context>
+    <name>UtilForms</name>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informação</translation>
+    </message>
+</context>
+<context>
+    <name>VarRangeModel</name>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+</context>
+<context>
+    <name>VarValueLabelDiccionaryModel</name>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDiccionaryModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists</source>
+        <translation>A cadeia de caracteres digitada já existe</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists as the alias of a variable</source>
+        <translation>A cadeia de caracteres digitada já existe como alias de uma variável</translation>
+    </message>
+    <message>
+        <source>The value already exists as the name/alias of a variable alias </source>
+        <translation>O valor já existe como nome/alias de um alias de variável </translation>
+    </message>
+    <message>
+        <source>The value already exists as the name-entity/name-variable/alias</source>
+        <translation>O valor já existe como nome de entidade/nome de variável/alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Cadeia inválida</translation>
+    </message>
+    <message>
+        <source>RefCode Variable</source>
+        <translation>Variável RefCode</translation>
+    </message>
+    <message>
+        <source>Variable identified as RefCode.
+Keep it as RefCode?</source>
+        <translation>Variável identificada como RefCode.
+Mantê-la como RefCode?</translation>
+    </message>
+    <message>
+        <source>already exists.</source>
+        <translation>já existe.</translation>
+    </message>
+    <message>
+        <source>Overwrite?</source>
+        <translation>Sobrescrever?</translation>
+    </message>
+    <message>
+        <source>Overwrite variable</source>
+        <translation>Sobrescrever variável</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Duplicated names</source>
+        <translation>Nomes duplicados</translation>
+    </message>
+    <message>
+        <source>Error creating</source>
+        <translation>Erro ao criar</translation>
+    </message>
+    <message>
+        <source>Must be selectable entity.</source>
+        <translation>Deve ser uma entidade selecionável.</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelDownStep4</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>VariableModelSplitStep3</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
+    <name>dictionaryTreeModelDownload</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidade</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Describes censuses and surveys: entities, variables, value labels.</source>
+        <translation>Descreve censos e pesquisas: entidades, variáveis, rótulos de valor.</translation>
+    </message>
+    <message>
+        <source>Write debug lines to standard error.</source>
+        <translation>Escreve linhas de depuração na saída de erro padrão.</translation>
+    </message>
+    <message>
+        <source>Save what the window shows to &lt;file&gt; and end.</source>
+        <translation>Salva o que a janela mostra em &lt;file&gt; e termina.</translation>
+    </message>
+    <message>
+        <source>Go to the place that &lt;pointer&gt; names, as &quot;tessel check&quot; prints it.</source>
+        <translation>Vai ao lugar indicado por &lt;pointer&gt;, como &quot;tessel check&quot; o mostra.</translation>
+    </message>
+    <message>
+        <source>End as soon as the window is there, to try an installation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary to open.</source>
+        <translation>O dicionário a abrir.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents</name>
+    <message>
+        <source>expected an object at the top, found an array</source>
+        <translation>esperava-se um objeto no nível superior, mas há uma matriz</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a text</source>
+        <translation>esperava-se um objeto no nível superior, mas há um texto</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found a number</source>
+        <translation>esperava-se um objeto no nível superior, mas há um número</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found %1</source>
+        <translation>esperava-se um objeto no nível superior, mas há %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>não pode ser lido: é uma pasta; indique um arquivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>is larger than 1 GiB; expected a smaller document</source>
+        <translation>tem mais de 1 GiB; esperava-se um documento menor</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>esperava-se texto em UTF-8, mas está em UTF-16; salve o arquivo em UTF-8</translation>
+    </message>
+    <message>
+        <source>expected an object at the top, found nothing: the file is empty</source>
+        <translation>esperava-se um objeto no nível superior, mas não há nada: o arquivo está vazio</translation>
+    </message>
+    <message>
+        <source>cannot be written: it is a folder; name a file</source>
+        <translation>não pode ser gravado: é uma pasta; indique um arquivo</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>não pode ser gravado: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1; nothing was changed</source>
+        <translation>não pode ser gravado: %1; nada foi alterado</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; or &quot;}&quot; after a value in an object</source>
+        <translation>esperava-se &quot;,&quot; ou &quot;}&quot; depois de um valor em um objeto</translation>
+    </message>
+    <message>
+        <source>expected &quot;:&quot; after a key</source>
+        <translation>esperava-se &quot;:&quot; depois de uma chave</translation>
+    </message>
+    <message>
+        <source>expected &quot;]&quot; at the end of an array</source>
+        <translation>esperava-se &quot;]&quot; no fim de uma matriz</translation>
+    </message>
+    <message>
+        <source>expected &quot;,&quot; between two values</source>
+        <translation>esperava-se &quot;,&quot; entre dois valores</translation>
+    </message>
+    <message>
+        <source>expected a value: an object, an array, a text in double quotes, a number, true, false or null</source>
+        <translation>esperava-se um valor: um objeto, uma matriz, um texto entre aspas duplas, um número, true, false ou null</translation>
+    </message>
+    <message>
+        <source>expected the rest of the document after a number</source>
+        <translation>esperava-se o restante do documento depois de um número</translation>
+    </message>
+    <message>
+        <source>expected a number that JSON and double precision can hold</source>
+        <translation>esperava-se um número que possa ser representado em JSON e em precisão dupla</translation>
+    </message>
+    <message>
+        <source>expected one of \&quot; \\ \/ \b \f \n \r \t \uXXXX after a backslash</source>
+        <translation>esperava-se uma das sequências \&quot; \\ \/ \b \f \n \r \t \uXXXX com a barra invertida</translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8; save the file in that encoding</source>
+        <translation>esperava-se texto em UTF-8; salve o arquivo nessa codificação</translation>
+    </message>
+    <message>
+        <source>expected a double quote at the end of a text</source>
+        <translation>esperavam-se aspas duplas no fim de um texto</translation>
+    </message>
+    <message>
+        <source>expected a key in double quotes</source>
+        <translation>esperava-se uma chave entre aspas duplas</translation>
+    </message>
+    <message>
+        <source>objects and arrays stand more than 1024 deep in one another; expected fewer levels</source>
+        <translation>há objetos e matrizes aninhados em mais de 1024 níveis; esperavam-se menos níveis</translation>
+    </message>
+    <message>
+        <source>the document is too large; expected fewer values</source>
+        <translation>o documento é grande demais; esperavam-se menos valores</translation>
+    </message>
+    <message>
+        <source>expected nothing more after the end of the document</source>
+        <translation>não se esperava mais nada depois do fim do documento</translation>
+    </message>
+    <message>
+        <source>expected a JSON document</source>
+        <translation>esperava-se um documento JSON</translation>
+    </message>
+    <message>
+        <source>%1, but the file ends here; it may have been cut off</source>
+        <translation>%1, mas o arquivo termina aqui; pode ter sido truncado</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::Loss</name>
+    <message>
+        <source>%1 is not written</source>
+        <translation>%1 não é gravado</translation>
+    </message>
+    <message>
+        <source>%1 is written as %2</source>
+        <translation>%1 é gravado como %2</translation>
+    </message>
+    <message>
+        <source>the key is given more than once and only one of its values is kept</source>
+        <translation>a chave aparece mais de uma vez e só um de seus valores é mantido</translation>
+    </message>
+    <message>
+        <source>what stands here is not JSON as other programs read it; it was read as well as could be</source>
+        <translation>o que está aqui não é JSON como outros programas o leem; foi lido da melhor forma possível</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::NameCheck</name>
+    <message>
+        <source>the dictionary itself</source>
+        <translation>o próprio dicionário</translation>
+    </message>
+    <message>
+        <source>the entity has no name; give it one</source>
+        <translation>a entidade não tem nome; dê um nome a ela</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name is a letter or _ followed by letters, digits and _</source>
+        <translation>o nome de uma entidade é uma letra ou _ seguida de letras, dígitos e _</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name holds no control character, double quote or backslash</source>
+        <translation>o nome de uma entidade não contém caracteres de controle, aspas duplas nem barras invertidas</translation>
+    </message>
+    <message>
+        <source>an entity&apos;s name has at most %1 characters; this one has %2</source>
+        <translation>o nome de uma entidade tem no máximo %1 caracteres; este tem %2</translation>
+    </message>
+    <message>
+        <source>the name is already that of %1; rename one of them</source>
+        <translation>%1 já tem esse nome; renomeie um dos dois</translation>
+    </message>
+    <message>
+        <source>the name is also an alias of an entity; change one of them</source>
+        <translation>o nome também é alias de uma entidade; altere um dos dois</translation>
+    </message>
+    <message>
+        <source>the name is also a group of variables; change one of them</source>
+        <translation>o nome também é um grupo de variáveis; altere um dos dois</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::documents::VariableFindings</name>
+    <message>
+        <source>a variable&apos;s label holds no control character, double quote or backslash</source>
+        <translation>o rótulo de uma variável não contém caracteres de controle, aspas duplas nem barras invertidas</translation>
+    </message>
+    <message>
+        <source>%1 is no type; a variable is a string, integer, real or bool</source>
+        <translation>%1 não é um tipo; uma variável é string, integer, real ou bool</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s code, is none of its variables; choose one or add it</source>
+        <translation>%1, que deve conter o código da entidade, não é uma de suas variáveis; escolha uma ou adicione-a</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s label, is none of its variables; choose one or add it</source>
+        <translation>%1, que deve conter o rótulo da entidade, não é uma de suas variáveis; escolha uma ou adicione-a</translation>
+    </message>
+    <message>
+        <source>%1, which is to hold the entity&apos;s weight, is none of its variables; choose one or add it</source>
+        <translation>%1, que deve conter o peso da entidade, não é uma de suas variáveis; escolha uma ou adicione-a</translation>
+    </message>
+    <message>
+        <source>a variable&apos;s name holds no control character, double quote or backslash</source>
+        <translation>o nome de uma variável não contém caracteres de controle, aspas duplas nem barras invertidas</translation>
+    </message>
+    <message>
+        <source>the name is already that of a variable before it; rename one of them</source>
+        <translation>uma variável anterior já tem esse nome; renomeie uma das duas</translation>
+    </message>
+    <message>
+        <source>the name is also that of an entity; rename one of them</source>
+        <translation>uma entidade também tem esse nome; renomeie uma das duas</translation>
+    </message>
+    <message>
+        <source>the code %1 is no such number as the variable&apos;s type wants and would be saved as 0; change the code or the type</source>
+        <translation>o código %1 não é um número como o tipo da variável exige e seria salvo como 0; altere o código ou o tipo</translation>
+    </message>
+    <message>
+        <source>the minimum %1 is above the maximum %2; exchange them</source>
+        <translation>o mínimo %1 é maior que o máximo %2; troque-os</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor</name>
+    <message>
+        <source>About Tessel</source>
+        <translation>Sobre o Tessel</translation>
+    </message>
+    <message>
+        <source>Tessel %1
+
+Data dictionaries for hierarchical statistical databases.</source>
+        <translation>Tessel %1
+
+Dicionários de dados para bancos de dados estatísticos hierárquicos.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Does</source>
+        <translation>Ação</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Type into the cell</source>
+        <translation>Digitar na célula</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tabelas</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Keep what was typed and go to the next row</source>
+        <translation>Manter o que foi digitado e ir para a próxima linha</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, linha %2, coluna %3: %4</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::AutoSave</name>
+    <message>
+        <source>No copy of the unsaved work could be kept in %1: %2.</source>
+        <translation>Não foi possível manter uma cópia do trabalho não salvo em %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CopyLabelsDialog</name>
+    <message>
+        <source>Copy labels</source>
+        <translation>Copiar rótulos</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Variables that are to have the %n labels of %1 in place of their own:</source>
+        <translation>
+            <numerusform>&amp;Variáveis que receberão %n rótulo de %1 no lugar dos seus:</numerusform>
+            <numerusform>&amp;Variáveis que receberão os %n rótulos de %1 no lugar dos seus:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variáveis</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::CsvSourceTab</name>
+    <message>
+        <source>CSV fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a CSV file; only its header is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Separator of the CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stands between the fields; a choice reads the header again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Separator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields in %2.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Separator: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatabasePage</name>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the folder of the database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values that saving does not keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which database is built, where, and from which source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder in which the database is built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The main source file, whose records the dictionary describes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Source file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the database a name to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving loses or changes these values of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DatasetSourceTab</name>
+    <message>
+        <source>Dataset fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a dataset; only the description of its fields is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a dataset to see its fields here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dataset has no fields.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n fields.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DictionaryDocument</name>
+    <message>
+        <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
+        <translation>é uma configuração de processamento, não um dicionário; abra-a com Processamento, Abrir processamento</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntitiesPage</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Which entities of the dictionary take part in the run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick the entities, with the mouse or the space bar:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet; add some before you plan a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick at least one entity to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityForm</name>
+    <message>
+        <source>&amp;Label</source>
+        <translation>&amp;Rótulo</translation>
+    </message>
+    <message>
+        <source>&amp;Alias</source>
+        <translation>Alia&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Code variable</source>
+        <translation>Variável de códi&amp;go</translation>
+    </message>
+    <message>
+        <source>&amp;Weight variable</source>
+        <translation>Variável de pes&amp;o</translation>
+    </message>
+    <message>
+        <source>&amp;Selectable</source>
+        <translation>Sele&amp;cionável</translation>
+    </message>
+    <message>
+        <source>D&amp;ocumentation</source>
+        <translation>Documen&amp;tação</translation>
+    </message>
+    <message>
+        <source>Label var&amp;iable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Virt&amp;ual</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EntityPane</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>mudança de nome de %1</translation>
+    </message>
+    <message>
+        <source>Delete entity</source>
+        <translation>Excluir entidade</translation>
+    </message>
+    <message>
+        <source>%1 goes with its variables and all entities below it. Delete?</source>
+        <translation>%1 será excluída com suas variáveis e todas as entidades abaixo dela. Excluir?</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ExpressionDialog</name>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double-click in the lists, drag from them, or write here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xpression:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The expression is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show entities and variables by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names and labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>&amp;Insert entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variáveis</translation>
+    </message>
+    <message>
+        <source>Insert va&amp;riable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ca&amp;tegories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert cate&amp;gory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inserts %1 at the cursor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Copies the whole expression (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variables of an entity are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no categories.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The categories of a variable are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FileHandling</name>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, linha %2, coluna %3: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Open dictionary</source>
+        <translation>Abrir dicionário</translation>
+    </message>
+    <message>
+        <source>Dictionaries (*.json);;All files (*)</source>
+        <translation>Dicionários (*.json);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 opened.</source>
+        <translation>%1 foi aberto.</translation>
+    </message>
+    <message>
+        <source>a dictionary that has no file yet</source>
+        <translation>um dicionário que ainda não tem arquivo</translation>
+    </message>
+    <message>
+        <source>Recover unsaved work</source>
+        <translation>Recuperar trabalho não salvo</translation>
+    </message>
+    <message>
+        <source>The editor ended without saving %1. Go on with the unsaved work?</source>
+        <translation>O editor foi encerrado sem salvar %1. Continuar com o trabalho não salvo?</translation>
+    </message>
+    <message>
+        <source>The unsaved work of %1 is back; save it to keep it.</source>
+        <translation>O trabalho não salvo de %1 foi recuperado; salve-o para mantê-lo.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Alterações não salvas</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1 before it is closed?</source>
+        <translation>Salvar as alterações antes de fechar %1?</translation>
+    </message>
+    <message>
+        <source>the new dictionary</source>
+        <translation>o novo dicionário</translation>
+    </message>
+    <message>
+        <source>Save dictionary</source>
+        <translation>Salvar dicionário</translation>
+    </message>
+    <message>
+        <source>File changed on disk</source>
+        <translation>Arquivo alterado no disco</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1 since it was opened here. Overwrite those changes?</source>
+        <translation>Outro programa alterou %1 desde que foi aberto aqui. Sobrescrever essas alterações?</translation>
+    </message>
+    <message>
+        <source>%1 is not saved; the file is as it was. %2</source>
+        <translation>%1 não foi salvo; o arquivo continua como estava. %2</translation>
+    </message>
+    <message>
+        <source>%1 saved at %2.</source>
+        <translation>%1 salvo às %2.</translation>
+    </message>
+    <message>
+        <source>Saving loses something</source>
+        <translation>Ao salvar, algo se perde</translation>
+    </message>
+    <message numerus="yes">
+        <source>The opened file holds %n values that dictionaries do not keep. Save all the same?</source>
+        <translation>
+            <numerusform>O arquivo aberto contém %n valor que os dicionários não mantêm. Salvar mesmo assim?</numerusform>
+            <numerusform>O arquivo aberto contém %n valores que os dicionários não mantêm. Salvar mesmo assim?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again and lose the changes made here?</source>
+        <translation>Outro programa alterou %1. Ler de novo e perder as alterações feitas aqui?</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Read it again?</source>
+        <translation>Outro programa alterou %1. Ler de novo?</translation>
+    </message>
+    <message>
+        <source>The unsaved work was put aside as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::FormPane</name>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>alteração de “%1” em %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LabelPane</name>
+    <message>
+        <source>Value labels</source>
+        <translation>Rótulos de valor</translation>
+    </message>
+    <message>
+        <source>Search codes and labels</source>
+        <translation>Pesquisar códigos e rótulos</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its value labels.</source>
+        <translation>Escolha uma variável para ver seus rótulos de valor.</translation>
+    </message>
+    <message>
+        <source>No value labels yet. Press Ins, or paste codes and labels from a spreadsheet.</source>
+        <translation>Ainda não há rótulos de valor. Pressione Ins ou cole códigos e rótulos de uma planilha.</translation>
+    </message>
+    <message>
+        <source>change %1 of label %2</source>
+        <translation>alteração de “%1” no rótulo %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels pasted.</source>
+        <translation>
+            <numerusform>%n rótulo colado.</numerusform>
+            <numerusform>%n rótulos colados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The clipboard holds no lines of codes and labels.</source>
+        <translation>A área de transferência não contém linhas de códigos e rótulos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels copied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupList</name>
+    <message>
+        <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
+        <translation>esperava-se texto em UTF-8, mas está em UTF-16; salve o arquivo em UTF-8</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::LookupSourceTab</name>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a list of lookups in JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups to see them here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of lookups is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a list of lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists of lookups (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 lookup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n lookups.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Ferramentas</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Novo</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Abrir &amp;recente</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salvar</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Salvar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>Ctrl+W</source>
+        <translation>Ctrl+W</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Sa&amp;ir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Ainda não há arquivos</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Z</source>
+        <translation>Ctrl+Shift+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Adicionar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Excluir</translation>
+    </message>
+    <message>
+        <source>Move u&amp;p</source>
+        <translation>Mover para &amp;cima</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>Mover para &amp;baixo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy labels</source>
+        <translation>Co&amp;piar rótulos</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ste labels</source>
+        <translation>C&amp;olar rótulos</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>Pesqui&amp;sar</translation>
+    </message>
+    <message>
+        <source>C&amp;lear search</source>
+        <translation>&amp;Limpar pesquisa</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variáveis</translation>
+    </message>
+    <message>
+        <source>&amp;Labels, ranges, properties</source>
+        <translation>&amp;Rótulos, intervalos, propriedades</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>&amp;Fontes</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Problemas</translation>
+    </message>
+    <message>
+        <source>&amp;Docks</source>
+        <translation>Pai&amp;néis</translation>
+    </message>
+    <message>
+        <source>&amp;Order of the dictionary</source>
+        <translation>&amp;Ordem do dicionário</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Como o sistema</translation>
+    </message>
+    <message>
+        <source>The language changes when the editor starts the next time.</source>
+        <translation>O idioma mudará na próxima vez que o editor for iniciado.</translation>
+    </message>
+    <message>
+        <source>&amp;Dictionary</source>
+        <translation>&amp;Dicionário</translation>
+    </message>
+    <message>
+        <source>Add &amp;entity</source>
+        <translation>Adicionar &amp;entidade</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+E</source>
+        <translation>Ctrl+Shift+E</translation>
+    </message>
+    <message>
+        <source>Add &amp;variable</source>
+        <translation>Adicionar &amp;variável</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Add &amp;label</source>
+        <translation>Adicionar &amp;rótulo</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Add &amp;range</source>
+        <translation>Adicionar &amp;intervalo</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Copy labels to &amp;other variables…</source>
+        <translation>Copiar rótulos para &amp;outras variáveis…</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression…</source>
+        <translation>E&amp;xpressão…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Check now</source>
+        <translation>Verificar a&amp;gora</translation>
+    </message>
+    <message>
+        <source>&amp;Next problem</source>
+        <translation>&amp;Próximo problema</translation>
+    </message>
+    <message>
+        <source>&amp;Previous problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Choose the variable whose labels are to be copied first.</source>
+        <translation>Escolha primeiro a variável cujos rótulos serão copiados.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Processamento</translation>
+    </message>
+    <message>
+        <source>&amp;New run…</source>
+        <translation>&amp;Novo processamento…</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>&amp;Open run…</source>
+        <translation>&amp;Abrir processamento…</translation>
+    </message>
+    <message>
+        <source>Open run</source>
+        <translation>Abrir processamento</translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configurações de processamento (*.json);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>A&amp;talhos de teclado</translation>
+    </message>
+    <message>
+        <source>&amp;About Tessel</source>
+        <translation>&amp;Sobre o Tessel</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ges</source>
+        <translation>&amp;Intervalos</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>P&amp;ropriedades</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variável</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fontes</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Problemas (%1)</translation>
+    </message>
+    <message>
+        <source>%1 ▸ variables</source>
+        <translation>%1 ▸ variáveis</translation>
+    </message>
+    <message>
+        <source>%1[*] — Tessel</source>
+        <translation>%1[*] — Tessel</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Novo dicionário</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entidade</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variável</numerusform>
+            <numerusform>%n variáveis</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n labels</source>
+        <translation>
+            <numerusform>%n rótulo</numerusform>
+            <numerusform>%n rótulos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Saving would lose or change %n values that the file holds.</source>
+        <translation>
+            <numerusform>Ao salvar, %n valor contido no arquivo seria perdido ou alterado.</numerusform>
+            <numerusform>Ao salvar, %n valores contidos no arquivo seriam perdidos ou alterados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the sa&amp;mple census</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>La&amp;bels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entit&amp;y</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::NoticeBar</name>
+    <message>
+        <source>&amp;Details</source>
+        <translation>De&amp;talhes</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fechar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::OptionsPage</name>
+    <message>
+        <source>Create not-applicable and &amp;missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no &amp;ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the database is built, as a whole and entity by entity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create not-applicable and missing codes inside the ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create no ranges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of each entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidade</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record type that tells the entity&apos;s records in the source file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createCompound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handed on to the program that builds the database, as createSDC.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sequence of the entity&apos;s records is checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options of each entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ProblemsPane</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RangePane</name>
+    <message>
+        <source>Ranges</source>
+        <translation>Intervalos</translation>
+    </message>
+    <message>
+        <source>Search ranges</source>
+        <translation>Pesquisar intervalos</translation>
+    </message>
+    <message>
+        <source>Choose a variable to see its valid ranges.</source>
+        <translation>Escolha uma variável para ver seus intervalos válidos.</translation>
+    </message>
+    <message>
+        <source>No ranges: every value is valid. Press Ins to add one.</source>
+        <translation>Sem intervalos: qualquer valor é válido. Pressione Ins para adicionar um.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>alteração de “%1” em %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunPlan</name>
+    <message>
+        <source>is a dictionary, not a run configuration; open it with File, Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RunWizard</name>
+    <message>
+        <source>%1: %2.</source>
+        <translation type="unfinished">%1: %2. {1:?}</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4.</source>
+        <translation type="unfinished">%1, linha %2, coluna %3: %4. {1,?} {2,?} {3:?}</translation>
+    </message>
+    <message>
+        <source>Run wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run has changes that are not saved. Throw them away?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run.json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run configurations (*.json);;All files (*)</source>
+        <translation>Configurações de processamento (*.json);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>%1: holds the dictionary itself; choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchField</name>
+    <message>
+        <source>Search with a pattern (regular expression)</source>
+        <translation>Pesquisar com um padrão (expressão regular)</translation>
+    </message>
+    <message>
+        <source>Search with a pattern</source>
+        <translation>Pesquisar com um padrão</translation>
+    </message>
+    <message>
+        <source>Rows shown</source>
+        <translation>Linhas exibidas</translation>
+    </message>
+    <message>
+        <source>This is no pattern: %1.</source>
+        <translation>Isto não é um padrão: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SearchLine</name>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text or a regular expression; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no valid regular expression: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SelectionPage</name>
+    <message>
+        <source>Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables taken of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Selection:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to an entity to see its variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceFilter</name>
+    <message>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourceTab</name>
+    <message>
+        <source>&amp;Add to table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a file for: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the selected rows to the table of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row matches the filter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SourcesPane</name>
+    <message>
+        <source>Sources of variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lookups</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::StartPage</name>
+    <message>
+        <source>Describe a census or a survey</source>
+        <translation>Descrever um censo ou uma pesquisa</translation>
+    </message>
+    <message>
+        <source>A dictionary holds the entities, their variables and value labels.</source>
+        <translation>Um dicionário contém as entidades, suas variáveis e rótulos de valor.</translation>
+    </message>
+    <message>
+        <source>&amp;New dictionary</source>
+        <translation>&amp;Novo dicionário</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message>
+        <source>Look at the &amp;sample census</source>
+        <translation>Ver o censo de exemp&amp;lo</translation>
+    </message>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>Arquivos &amp;recentes</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Arquivos recentes</translation>
+    </message>
+    <message>
+        <source>%1  —  %2</source>
+        <translation>%1  —  %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::Structure</name>
+    <message>
+        <source>add %1</source>
+        <translation>inclusão de %1</translation>
+    </message>
+    <message>
+        <source>delete %1</source>
+        <translation>exclusão de %1</translation>
+    </message>
+    <message>
+        <source>move %1</source>
+        <translation>movimentação de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>delete %n variables</source>
+        <translation>
+            <numerusform>exclusão de %n variável</numerusform>
+            <numerusform>exclusão de %n variáveis</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>move %n variables</source>
+        <translation>
+            <numerusform>movimentação de %n variável</numerusform>
+            <numerusform>movimentação de %n variáveis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>add label %1 to %2</source>
+        <translation>inclusão do rótulo %1 em %2</translation>
+    </message>
+    <message>
+        <source>delete labels of %1</source>
+        <translation>exclusão de rótulos de %1</translation>
+    </message>
+    <message>
+        <source>move labels of %1</source>
+        <translation>movimentação de rótulos de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>paste %n labels</source>
+        <translation>
+            <numerusform>colagem de %n rótulo</numerusform>
+            <numerusform>colagem de %n rótulos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>copy labels of %1</source>
+        <translation>cópia dos rótulos de %1</translation>
+    </message>
+    <message>
+        <source>add range to %1</source>
+        <translation>inclusão de intervalo em %1</translation>
+    </message>
+    <message>
+        <source>delete ranges of %1</source>
+        <translation>exclusão de intervalos de %1</translation>
+    </message>
+    <message>
+        <source>move ranges of %1</source>
+        <translation>movimentação de intervalos de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::SummaryPage</name>
+    <message>
+        <source>Kept, though the dictionary does not have them:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Finish writes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities of the run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidade</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variáveis</translation>
+    </message>
+    <message>
+        <source>Record type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names that the dictionary does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in the dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run &quot;%1&quot; takes %2 and %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to a file that you are asked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run is written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TablePane</name>
+    <message>
+        <source>The table is sorted; choose View, Order of the dictionary to move rows.</source>
+        <translation>A tabela está classificada; para mover linhas, escolha Exibir, Ordem do dicionário.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::TableView</name>
+    <message>
+        <source>Nothing matches the search. Esc clears it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariableForm</name>
+    <message>
+        <source>&amp;Type</source>
+        <translation>Tip&amp;o</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>Taman&amp;ho</translation>
+    </message>
+    <message>
+        <source>&amp;Missing</source>
+        <translation>Au&amp;sente</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>I&amp;nício</translation>
+    </message>
+    <message>
+        <source>&amp;Length</source>
+        <translation>Compri&amp;mento</translation>
+    </message>
+    <message>
+        <source>De&amp;cimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not &amp;applicable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rec&amp;ord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ield</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Doc&amp;umentation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablePane</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variáveis</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Pesquisar variáveis</translation>
+    </message>
+    <message>
+        <source>Choose an entity to see its variables.</source>
+        <translation>Escolha uma entidade para ver suas variáveis.</translation>
+    </message>
+    <message>
+        <source>No variables yet. Drag fields from Sources, or press Ins.</source>
+        <translation>Ainda não há variáveis. Arraste campos de Fontes ou pressione Ins.</translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>alteração de “%1” em %2</translation>
+    </message>
+    <message>
+        <source>Delete variables</source>
+        <translation>Excluir variáveis</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the variables have value labels or ranges, which go with them. Delete?</source>
+        <translation>
+            <numerusform>%n das variáveis tem rótulos de valor ou intervalos, que serão excluídos com ela. Excluir?</numerusform>
+            <numerusform>%n das variáveis têm rótulos de valor ou intervalos, que serão excluídos com elas. Excluir?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose the entity that is to have the fields first.</source>
+        <translation>Escolha primeiro a entidade que receberá os campos.</translation>
+    </message>
+    <message>
+        <source>add fields to %1</source>
+        <translation>inclusão de campos em %1</translation>
+    </message>
+    <message>
+        <source>No field was added.</source>
+        <translation>Nenhum campo foi adicionado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables added to %1.</source>
+        <translation>
+            <numerusform>%n variável adicionada a %1.</numerusform>
+            <numerusform>%n variáveis adicionadas a %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <translation>mudança de nome de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::VariablesPage</name>
+    <message>
+        <source>All &amp;variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untick all variables that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the ticks that are shown over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variáveis</translation>
+    </message>
+    <message>
+        <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All variables of this entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes every variable, also those that the dictionary gets later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Pesquisar variáveis</translation>
+    </message>
+    <message>
+        <source>Variables of the entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (all)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not a valid pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::WizardText</name>
+    <message>
+        <source>1 entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities</source>
+        <translation>
+            <numerusform>%n entidade</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables</source>
+        <translation>
+            <numerusform>%n variável</numerusform>
+            <numerusform>%n variáveis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+</TS>
