@@ -1,11 +1,11 @@
 # Thin calls of presets and scripts. "make run" and "make test" are all that a newcomer needs.
-.PHONY: run test asan bench check format icons fuzz clean
+.PHONY: run test asan bench check format icons pictures translations fuzz clean
 
 SECONDS ?= 60
 
 run:
 	scripts/install-packages test
-	scripts/build dev tessel
+	scripts/build dev tessel tessel-editor
 	scripts/run
 
 test:
@@ -38,6 +38,15 @@ format:
 icons:
 	scripts/install-packages icons
 	scripts/render-icons
+
+pictures:
+	scripts/install-packages build
+	scripts/build dev tessel-editor
+	scripts/pictures
+
+translations:
+	scripts/install-packages build
+	scripts/update-translations
 
 # Runs the fuzz target for SECONDS seconds, beginning with the samples.
 fuzz:
