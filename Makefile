@@ -26,6 +26,7 @@ bench:
 	build/release/bench/bench_naming --benchmark_min_time=0.2
 	build/release/bench/bench_variables --benchmark_min_time=0.2
 	build/release/bench/bench_filters --benchmark_min_time=0.3
+	QT_QPA_PLATFORM=offscreen build/release/bench/bench_editor build/release/editor/tessel-editor build/release/bench/bare_window
 
 check:
 	scripts/install-packages check

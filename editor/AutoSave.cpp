@@ -58,7 +58,7 @@ void AutoSave::removeCopy(const QString &name) { QFile::remove(copyOf(name)); }
 
 QString AutoSave::setAside(const QString &name)
 {
-    const QString aside = copyOf(name) + QStringLiteral(".declined");
+    QString aside = copyOf(name) + QStringLiteral(".declined");
     QFile::remove(aside);
     QFile::rename(copyOf(name), aside);
     return aside;

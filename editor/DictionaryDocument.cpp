@@ -14,7 +14,7 @@ namespace {
 /// that saving writes back what was read.
 QString shownType(const QString &type)
 {
-    const QString upper = type.toUpper();
+    QString upper = type.toUpper();
     for (const char *known : {"STRING", "INTEGER", "REAL", "BOOL"}) {
         if (upper == QLatin1String(known))
             return upper;
@@ -78,7 +78,7 @@ std::optional<documents::FileProblem> DictionaryDocument::openCopy(const QString
 
 std::optional<documents::FileProblem> DictionaryDocument::recover(const QString &copy, const QString &name)
 {
-    const auto problem = read(copy, name);
+    auto problem = read(copy, name);
     if (!problem) {
         isRecovered = true;
         emit modifiedChanged(true);
@@ -120,7 +120,7 @@ void DictionaryDocument::replaceTree(
 
 std::optional<documents::FileProblem> DictionaryDocument::save(const QString &name)
 {
-    if (const auto problem = saveCopy(name))
+    if (auto problem = saveCopy(name))
         return problem;
     // What the file did not keep is gone with the saving, and was told before.
     openedBytes.reset();

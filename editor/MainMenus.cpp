@@ -132,9 +132,10 @@ void MainWindow::makeEditMenu()
     menu->addSeparator();
     QAction *addRow = add(menu, tr("&Add"), nullptr, QKeySequence(Qt::Key_Insert), QStringLiteral("add"));
     QAction *remove = add(menu, tr("&Delete"), "delete", QKeySequence::Delete, QStringLiteral("delete"));
-    QAction *up = add(menu, tr("Move u&p"), "up", QKeySequence(Qt::ALT | Qt::Key_Up), QStringLiteral("up"));
-    QAction *down =
-        add(menu, tr("Move do&wn"), "down", QKeySequence(Qt::ALT | Qt::Key_Down), QStringLiteral("down"));
+    QAction *up =
+        add(menu, tr("Move u&p"), "up", QKeySequence(int(Qt::ALT) | int(Qt::Key_Up)), QStringLiteral("up"));
+    QAction *down = add(menu, tr("Move do&wn"), "down", QKeySequence(int(Qt::ALT) | int(Qt::Key_Down)),
+        QStringLiteral("down"));
     menu->addSeparator();
     QAction *copy = add(
         menu, tr("&Copy labels"), nullptr, QKeySequence(tr("Ctrl+Shift+C")), QStringLiteral("copyLabels"));
@@ -248,8 +249,8 @@ void MainWindow::makeDictionaryMenu()
     QAction *check = add(menu, tr("&Check now"), nullptr, QKeySequence(Qt::Key_F7), QStringLiteral("check"));
     QAction *next =
         add(menu, tr("&Next problem"), nullptr, QKeySequence(Qt::Key_F8), QStringLiteral("nextProblem"));
-    QAction *previous = add(menu, tr("&Previous problem"), nullptr, QKeySequence(Qt::SHIFT | Qt::Key_F8),
-        QStringLiteral("previousProblem"));
+    QAction *previous = add(menu, tr("&Previous problem"), nullptr,
+        QKeySequence(int(Qt::SHIFT) | int(Qt::Key_F8)), QStringLiteral("previousProblem"));
 
     bar->addActions({entity, variable, findChild<QAction *>(QStringLiteral("delete")),
         findChild<QAction *>(QStringLiteral("up")), findChild<QAction *>(QStringLiteral("down"))});

@@ -27,6 +27,7 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLayout>
 #include <QMimeData>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -125,6 +126,8 @@ void MainWindow::makePanes()
     middleLayout->addWidget(centre, 1);
     setCentralWidget(middle);
 
+    for (QWidget *page : {static_cast<QWidget *>(labels), static_cast<QWidget *>(ranges)})
+        page->layout()->setContentsMargins(4, 4, 4, 4);
     details = new QTabWidget;
     details->setObjectName(QStringLiteral("details"));
     details->addTab(labels, tr("La&bels"));
@@ -157,6 +160,11 @@ void MainWindow::connectPanes()
     connect(ranges, &RangePane::told, this, say);
     connect(sources, &SourcesPane::addRequested, variables, &VariablePane::take);
     connect(sources, &SourcesPane::problemFound, this, warn);
+    const auto noDatasets = [this] {
+        notice->tell(tr("Files of this kind cannot be read yet; open a CSV file or a list of lookups."));
+    };
+    connect(sources, &SourcesPane::datasetRequested, this, noDatasets);
+    connect(sources, &SourcesPane::fileDropped, this, noDatasets);
     connect(problems, &ProblemsPane::goTo, this, &MainWindow::goTo);
     connect(problems, &ProblemsPane::countChanged, this, [this](int count) {
         problemsDock->setWindowTitle(count > 0 ? tr("Problems (%1)").arg(count) : tr("Problems"));

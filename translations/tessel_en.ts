@@ -15,30 +15,30 @@
     <name>tessel::editor::CsvHeader</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n fields have no name and are called %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n field has no name and is called %1.</numerusform>
+            <numerusform>%n fields have no name and are called %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n fields have the name %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n field has the name %1.</numerusform>
+            <numerusform>%n fields have the name %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n names belong to more than one field: %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n name belongs to more than one field: %1.</numerusform>
+            <numerusform>%n names belong to more than one field: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -46,9 +46,9 @@
     <name>tessel::editor::CsvSourceTab</name>
     <message numerus="yes">
         <source>%1: %n fields in %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n field in %2.</numerusform>
+            <numerusform>%1: %n fields in %2.</numerusform>
         </translation>
     </message>
 </context>
@@ -56,9 +56,9 @@
     <name>tessel::editor::DatasetSourceTab</name>
     <message numerus="yes">
         <source>%1: %n fields.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n field.</numerusform>
+            <numerusform>%1: %n fields.</numerusform>
         </translation>
     </message>
 </context>
@@ -83,9 +83,9 @@
     </message>
     <message numerus="yes">
         <source>%n labels copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n label copied.</numerusform>
+            <numerusform>%n labels copied.</numerusform>
         </translation>
     </message>
 </context>
@@ -93,9 +93,9 @@
     <name>tessel::editor::LookupSourceTab</name>
     <message numerus="yes">
         <source>%1: %n lookups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n lookup.</numerusform>
+            <numerusform>%1: %n lookups.</numerusform>
         </translation>
     </message>
 </context>
@@ -131,9 +131,9 @@
     </message>
     <message numerus="yes">
         <source>%n problems found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problem found.</numerusform>
+            <numerusform>%n problems found.</numerusform>
         </translation>
     </message>
 </context>

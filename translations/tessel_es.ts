@@ -229,7 +229,7 @@ Keep it as RefCode?</source>
     </message>
     <message>
         <source>End as soon as the window is there, to try an installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina en cuanto aparece la ventana, para probar una instalación.</translation>
     </message>
     <message>
         <source>The dictionary to open.</source>
@@ -536,71 +536,71 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::CsvHeader</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>1 field has no name and is called %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 campo no tiene nombre y se llama %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n fields have no name and are called %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo no tiene nombre y se llama %1.</numerusform>
+            <numerusform>%n campos no tienen nombre y se llaman %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n fields have the name %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo lleva el nombre %1.</numerusform>
+            <numerusform>%n campos llevan el nombre %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n names belong to more than one field: %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nombre corresponde a más de un campo: %1.</numerusform>
+            <numerusform>%n nombres corresponden a más de un campo: %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo de texto: contiene bytes nulos; se esperaba un archivo CSV en UTF-8, en UTF-16 con marca de orden de bytes o en Windows-1252</translation>
     </message>
     <message>
         <source>is empty; expected the names of fields in its first line</source>
-        <translation type="unfinished"></translation>
+        <translation>está vacío; se esperaban los nombres de los campos en la primera línea</translation>
     </message>
     <message>
         <source>ends in the middle of a character; it may have been cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>termina en medio de un carácter; puede estar truncado</translation>
     </message>
     <message>
         <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene en el campo %1 de su encabezado unas comillas que no se cierran; ciérrelas en el archivo o elija otro separador</translation>
     </message>
     <message>
         <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de %1 campos en la primera línea; se esperaban menos</translation>
     </message>
     <message>
         <source>The names stand in line %1, below empty lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los nombres están en la línea %1, debajo de líneas vacías.</translation>
     </message>
     <message>
         <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está marcado como UTF-8 pero contiene otros bytes; se leyó como Windows-1252.</translation>
     </message>
     <message>
         <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene el final del encabezado en los primeros %1 MiB; cierre las comillas o elija otro archivo</translation>
     </message>
     <message>
         <source>cannot be read: it is a folder; choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer: es una carpeta; elija un archivo</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
@@ -611,178 +611,178 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos CSV</translation>
     </message>
     <message>
         <source>Opens a CSV file; only its header is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un archivo CSV; solo se lee el encabezado.</translation>
     </message>
     <message>
         <source>Open a CSV file to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra un archivo CSV para ver aquí sus campos.</translation>
     </message>
     <message>
         <source>Separator of the CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador del archivo CSV</translation>
     </message>
     <message>
         <source>What stands between the fields; a choice reads the header again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que separa los campos; al elegir otro se vuelve a leer el encabezado.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto y coma</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulador</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra vertical</translation>
     </message>
     <message>
         <source>&amp;Separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sepa&amp;rador:</translation>
     </message>
     <message>
         <source>Open a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo CSV</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos CSV (*.csv *.txt *.tsv);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>%1: 1 field in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 campo en %2.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields in %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n campo en %2.</numerusform>
+            <numerusform>%1: %n campos en %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Separator: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatabasePage</name>
     <message>
         <source>B&amp;rowse…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar…</translation>
     </message>
     <message>
         <source>Choose the folder of the database</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la carpeta de la base de datos</translation>
     </message>
     <message>
         <source>Bro&amp;wse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exa&amp;minar…</translation>
     </message>
     <message>
         <source>Choose the source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de origen</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres que el diccionario no contiene</translation>
     </message>
     <message>
         <source>Values that saving does not keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores que no se conservan al guardar</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos</translation>
     </message>
     <message>
         <source>Which database is built, where, and from which source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué base de datos se construye, dónde y a partir de qué archivo de origen.</translation>
     </message>
     <message>
         <source>Database name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de la base de datos</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>The folder in which the database is built.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta en la que se construye la base de datos.</translation>
     </message>
     <message>
         <source>Source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de origen</translation>
     </message>
     <message>
         <source>The main source file, whose records the dictionary describes.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de origen principal, cuyos registros describe el diccionario.</translation>
     </message>
     <message>
         <source>&amp;Database name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de la base de &amp;datos:</translation>
     </message>
     <message>
         <source>F&amp;older:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta:</translation>
     </message>
     <message>
         <source>&amp;Source file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de &amp;origen:</translation>
     </message>
     <message>
         <source>Give the database a name to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para continuar, asigne un nombre a la base de datos.</translation>
     </message>
     <message>
         <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>El proceso nombra elementos que el diccionario no contiene; se conservan al guardar el proceso:</translation>
     </message>
     <message>
         <source>Saving loses or changes these values of the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al guardar se pierden o cambian estos valores del archivo:</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatasetSourceTab</name>
     <message>
         <source>Dataset fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos del conjunto de datos</translation>
     </message>
     <message>
         <source>Opens a dataset; only the description of its fields is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un conjunto de datos; solo se lee la descripción de sus campos.</translation>
     </message>
     <message>
         <source>Open a dataset to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra un conjunto de datos para ver aquí sus campos.</translation>
     </message>
     <message>
         <source>The dataset has no fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>El conjunto de datos no tiene campos.</translation>
     </message>
     <message>
         <source>%1: 1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 campo.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n campo.</numerusform>
+            <numerusform>%1: %n campos.</numerusform>
         </translation>
     </message>
 </context>
@@ -801,27 +801,27 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Which entities of the dictionary take part in the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué entidades del diccionario participan en el proceso.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades del proceso</translation>
     </message>
     <message>
         <source>&amp;Tick the entities, with the mouse or the space bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marque las entidades con el mouse o la barra espaciadora:</translation>
     </message>
     <message>
         <source>%1 ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcadas: %1.</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet; add some before you plan a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>El diccionario aún no tiene entidades; agregue algunas antes de planificar un proceso.</translation>
     </message>
     <message>
         <source>Tick at least one entity to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para continuar, marque al menos una entidad.</translation>
     </message>
 </context>
 <context>
@@ -848,15 +848,15 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>D&amp;ocumentation</source>
-        <translation>Docume&amp;ntación</translation>
+        <translation>Docu&amp;mentación</translation>
     </message>
     <message>
         <source>Label var&amp;iable</source>
-        <translation type="unfinished"></translation>
+        <translation>Varia&amp;ble de etiqueta</translation>
     </message>
     <message>
         <source>Virt&amp;ual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virt&amp;ual</translation>
     </message>
 </context>
 <context>
@@ -882,43 +882,43 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::ExpressionDialog</name>
     <message>
         <source>&amp;Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar al portapapeles</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión</translation>
     </message>
     <message>
         <source>Double-click in the lists, drag from them, or write here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga doble clic en las listas, arrastre desde ellas o escriba aquí.</translation>
     </message>
     <message>
         <source>E&amp;xpression:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xpresión:</translation>
     </message>
     <message>
         <source>The expression is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>La expresión está en el portapapeles.</translation>
     </message>
     <message>
         <source>&amp;Show:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar:</translation>
     </message>
     <message>
         <source>Show entities and variables by</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar entidades y variables por</translation>
     </message>
     <message>
         <source>Names</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>Names and labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres y etiquetas</translation>
     </message>
     <message>
         <source>&amp;Entities</source>
@@ -926,7 +926,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>&amp;Insert entity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar entidad</translation>
     </message>
     <message>
         <source>&amp;Variables</source>
@@ -934,75 +934,75 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Insert va&amp;riable</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;sertar variable</translation>
     </message>
     <message>
         <source>Ca&amp;tegories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ca&amp;tegorías</translation>
     </message>
     <message>
         <source>Insert cate&amp;gory</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar cate&amp;goría</translation>
     </message>
     <message>
         <source>Inserts %1 at the cursor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserta %1 en la posición del cursor.</translation>
     </message>
     <message>
         <source>Equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual a</translation>
     </message>
     <message>
         <source>Different from</source>
-        <translation type="unfinished"></translation>
+        <translation>Distinto de</translation>
     </message>
     <message>
         <source>Less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor que</translation>
     </message>
     <message>
         <source>Less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor o igual que</translation>
     </message>
     <message>
         <source>Greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor que</translation>
     </message>
     <message>
         <source>Greater than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor o igual que</translation>
     </message>
     <message>
         <source>And: both sides hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Y: se cumplen ambos lados</translation>
     </message>
     <message>
         <source>Or: one side holds at least</source>
-        <translation type="unfinished"></translation>
+        <translation>O: se cumple al menos un lado</translation>
     </message>
     <message>
         <source>Not: what follows does not hold</source>
-        <translation type="unfinished"></translation>
+        <translation>No: no se cumple lo que sigue</translation>
     </message>
     <message>
         <source>Opening bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Paréntesis de apertura</translation>
     </message>
     <message>
         <source>Closing bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Paréntesis de cierre</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar al portapapeles</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce&amp;rrar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
@@ -1010,27 +1010,27 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Copies the whole expression (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia toda la expresión (%1).</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>El diccionario aún no tiene entidades.</translation>
     </message>
     <message>
         <source>%1 has no variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene variables.</translation>
     </message>
     <message>
         <source>The variables of an entity are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se muestran las variables de una entidad.</translation>
     </message>
     <message>
         <source>%1 has no categories.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene categorías.</translation>
     </message>
     <message>
         <source>The categories of a variable are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se muestran las categorías de una variable.</translation>
     </message>
 </context>
 <context>
@@ -1124,7 +1124,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>The unsaved work was put aside as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo no guardado se apartó como %1.</translation>
     </message>
 </context>
 <context>
@@ -1169,9 +1169,9 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message numerus="yes">
         <source>%n labels copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se copió %n etiqueta.</numerusform>
+            <numerusform>Se copiaron %n etiquetas.</numerusform>
         </translation>
     </message>
 </context>
@@ -1179,11 +1179,11 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::LookupList</name>
     <message>
         <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>se esperaba una lista de tablas de referencia, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], o un objeto con esa lista en &quot;lookups&quot;</translation>
     </message>
     <message>
         <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la tabla de referencia %1 no es como se esperaba; se esperaba un objeto con los textos &quot;id&quot;, que no debe estar vacío, y &quot;label&quot;</translation>
     </message>
     <message>
         <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
@@ -1194,37 +1194,37 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::LookupSourceTab</name>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas de referencia</translation>
     </message>
     <message>
         <source>Opens a list of lookups in JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre una lista de tablas de referencia en JSON.</translation>
     </message>
     <message>
         <source>Open a list of lookups to see them here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra una lista de tablas de referencia para verlas aquí.</translation>
     </message>
     <message>
         <source>The list of lookups is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista de tablas de referencia está vacía.</translation>
     </message>
     <message>
         <source>Open a list of lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una lista de tablas de referencia</translation>
     </message>
     <message>
         <source>Lists of lookups (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas de tablas de referencia (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>%1: 1 lookup.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 tabla de referencia.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n lookups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n tabla de referencia.</numerusform>
+            <numerusform>%1: %n tablas de referencia.</numerusform>
         </translation>
     </message>
 </context>
@@ -1556,26 +1556,30 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Open the sa&amp;mple census</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el censo de e&amp;jemplo</translation>
     </message>
     <message>
         <source>&amp;Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Varia&amp;ble</translation>
     </message>
     <message numerus="yes">
         <source>%n problems found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se encontró %n problema.</numerusform>
+            <numerusform>Se encontraron %n problemas.</numerusform>
         </translation>
     </message>
     <message>
         <source>La&amp;bels</source>
-        <translation type="unfinished"></translation>
+        <translation>Eti&amp;quetas</translation>
     </message>
     <message>
         <source>Entit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntidad</translation>
+    </message>
+    <message>
+        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
+        <translation>Todavía no es posible leer archivos de este tipo; abra un archivo CSV o una lista de tablas de referencia.</translation>
     </message>
 </context>
 <context>
@@ -1597,31 +1601,31 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear los códigos de no aplica y de o&amp;mitido dentro de los rangos</translation>
     </message>
     <message>
         <source>Create no &amp;ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>No crear &amp;rangos</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>How the database is built, as a whole and entity by entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se construye la base de datos, en conjunto y entidad por entidad.</translation>
     </message>
     <message>
         <source>Create not-applicable and missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear los códigos de no aplica y de omitido dentro de los rangos</translation>
     </message>
     <message>
         <source>Create no ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>No crear rangos</translation>
     </message>
     <message>
         <source>Options of each entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de cada entidad</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -1629,39 +1633,39 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de registro</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Compuesto</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar secuencia</translation>
     </message>
     <message>
         <source>The record type that tells the entity&apos;s records in the source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tipo de registro que distingue los registros de la entidad en el archivo de origen.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createCompound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se transmite como createCompound al programa que construye la base de datos.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createSDC.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se transmite como createSDC al programa que construye la base de datos.</translation>
     </message>
     <message>
         <source>The sequence of the entity&apos;s records is checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se comprueba la secuencia de los registros de la entidad.</translation>
     </message>
     <message>
         <source>&amp;Options of each entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opciones de cada entidad:</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1718,42 +1722,42 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::RunPlan</name>
     <message>
         <source>is a dictionary, not a run configuration; open it with File, Open</source>
-        <translation type="unfinished"></translation>
+        <translation>es un diccionario, no una configuración de proceso; ábralo con Archivo, Abrir</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::RunWizard</name>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished">%1: %2. {1:?}</translation>
+        <translation>%1: %2.</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4.</source>
-        <translation type="unfinished">%1, línea %2, columna %3: %4. {1,?} {2,?} {3:?}</translation>
+        <translation>%1, línea %2, columna %3: %4.</translation>
     </message>
     <message>
         <source>Run wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Asistente de proceso</translation>
     </message>
     <message>
         <source>New run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo proceso</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proceso %1</translation>
     </message>
     <message>
         <source>The run has changes that are not saved. Throw them away?</source>
-        <translation type="unfinished"></translation>
+        <translation>El proceso tiene cambios sin guardar. ¿Descartarlos?</translation>
     </message>
     <message>
         <source>run.json</source>
-        <translation type="unfinished"></translation>
+        <translation>proceso.json</translation>
     </message>
     <message>
         <source>Save the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el proceso</translation>
     </message>
     <message>
         <source>Run configurations (*.json);;All files (*)</source>
@@ -1761,7 +1765,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>%1: holds the dictionary itself; choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: contiene el propio diccionario; elija otro archivo.</translation>
     </message>
 </context>
 <context>
@@ -1791,38 +1795,38 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::SearchLine</name>
     <message>
         <source>Search name, label, alias, group…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar nombre, etiqueta, alias, grupo…</translation>
     </message>
     <message>
         <source>A text or a regular expression; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texto o una expresión regular; no se distinguen mayúsculas y minúsculas.</translation>
     </message>
     <message>
         <source>This is no valid regular expression: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta no es una expresión regular válida: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SelectionPage</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se ha elegido: una marca indica todas las variables de una entidad; una marca parcial, algunas; una casilla vacía, ninguna.</translation>
     </message>
     <message>
         <source>Variables taken of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables elegidas de la entidad</translation>
     </message>
     <message>
         <source>&amp;Selection:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Selección:</translation>
     </message>
     <message>
         <source>Go to an entity to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaya a una entidad para ver sus variables.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1833,73 +1837,73 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::SourceFilter</name>
     <message>
         <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de un texto o una expresión regular como ^P0[1-9]; no se distinguen mayúsculas y minúsculas.</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar</translation>
     </message>
     <message>
         <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este patrón no está completo (%1); se usa el último patrón completo.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourceTab</name>
     <message>
         <source>&amp;Add to table</source>
-        <translation type="unfinished"></translation>
+        <translation>Agregar a la tab&amp;la</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>&amp;Abrir…</translation>
+        <translation>A&amp;brir…</translation>
     </message>
     <message>
         <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea variables con las filas seleccionadas; también lo hacen Enter, el doble clic y el arrastre.</translation>
     </message>
     <message>
         <source>Open a file for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo para: %1</translation>
     </message>
     <message>
         <source>Filter of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de: %1</translation>
     </message>
     <message>
         <source>Add the selected rows to the table of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Agregar las filas seleccionadas a la tabla de variables</translation>
     </message>
     <message>
         <source>%L1 of %L2</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 de %L2</translation>
     </message>
     <message>
         <source>No row matches the filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila coincide con el filtro.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourcesPane</name>
     <message>
         <source>Sources of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuentes de variables</translation>
     </message>
     <message>
         <source>Kind of source</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de fuente</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>Dataset</source>
-        <translation type="unfinished"></translation>
+        <translation>Conjunto de datos</translation>
     </message>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas de referencia</translation>
     </message>
 </context>
 <context>
@@ -1925,16 +1929,16 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>Ver el censo de e&amp;jemplo</translation>
     </message>
     <message>
-        <source>&amp;Recent files</source>
-        <translation>Archivos &amp;recientes</translation>
-    </message>
-    <message>
         <source>Recent files</source>
         <translation>Archivos recientes</translation>
     </message>
     <message>
         <source>%1  —  %2</source>
         <translation>%1  —  %2</translation>
+    </message>
+    <message>
+        <source>Re&amp;cent files</source>
+        <translation>Archivos &amp;recientes</translation>
     </message>
 </context>
 <context>
@@ -2005,19 +2009,19 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::SummaryPage</name>
     <message>
         <source>Kept, though the dictionary does not have them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conservan, aunque el diccionario no los contiene:</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>What Finish writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se escribe al finalizar.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades del proceso</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -2029,51 +2033,51 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de registro</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres que el diccionario no contiene</translation>
     </message>
     <message>
         <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
-        <translation type="unfinished"></translation>
+        <translation>El diccionario se modificó después de abrir esta ventana; el proceso se planifica con lo que contenía entonces.</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Compuesto</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar secuencia</translation>
     </message>
     <message>
         <source>not in the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en el diccionario</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>The run &quot;%1&quot; takes %2 and %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proceso «%1» incluye %2 y %3.</translation>
     </message>
     <message>
         <source>The run is written to a file that you are asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proceso se escribe en un archivo que se le pedirá.</translation>
     </message>
     <message>
         <source>The run is written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proceso se escribe en %1.</translation>
     </message>
 </context>
 <context>
@@ -2087,7 +2091,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::TableView</name>
     <message>
         <source>Nothing matches the search. Esc clears it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada coincide con la búsqueda. Esc la borra.</translation>
     </message>
 </context>
 <context>
@@ -2098,7 +2102,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Si&amp;ze</source>
-        <translation>Ta&amp;maño</translation>
+        <translation>Tama&amp;ño</translation>
     </message>
     <message>
         <source>&amp;Missing</source>
@@ -2106,31 +2110,31 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation>&amp;Inicio</translation>
+        <translation>Comien&amp;zo</translation>
     </message>
     <message>
         <source>&amp;Length</source>
-        <translation>Longit&amp;ud</translation>
+        <translation>&amp;Longitud</translation>
     </message>
     <message>
         <source>De&amp;cimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Deci&amp;males</translation>
     </message>
     <message>
         <source>Not &amp;applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>No apl&amp;ica</translation>
     </message>
     <message>
         <source>Rec&amp;ord</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registro</translation>
     </message>
     <message>
         <source>F&amp;ield</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Campo</translation>
     </message>
     <message>
         <source>Doc&amp;umentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Doc&amp;umentación</translation>
     </message>
 </context>
 <context>
@@ -2194,31 +2198,31 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <name>tessel::editor::VariablesPage</name>
     <message>
         <source>All &amp;variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las &amp;variables de esta entidad</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas</translation>
     </message>
     <message>
         <source>Tick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todas las variables mostradas</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>Nin&amp;guna</translation>
     </message>
     <message>
         <source>Untick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todas las variables mostradas</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertir</translation>
     </message>
     <message>
         <source>Turn the ticks that are shown over</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir las marcas mostradas</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2226,19 +2230,19 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué variables se toman de cada entidad. Las que contienen su código, su etiqueta y su ponderador no hace falta elegirlas.</translation>
     </message>
     <message>
         <source>Ticked entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades marcadas</translation>
     </message>
     <message>
         <source>All variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las variables de esta entidad</translation>
     </message>
     <message>
         <source>Takes every variable, also those that the dictionary gets later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma todas las variables, también las que se agreguen después al diccionario.</translation>
     </message>
     <message>
         <source>Search variables</source>
@@ -2246,34 +2250,34 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>Variables of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables de la entidad</translation>
     </message>
     <message>
         <source>&amp;Entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entidad:</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu&amp;scar:</translation>
     </message>
     <message>
         <source>%1 (all)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (todas)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, not a valid pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, patrón no válido</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::WizardText</name>
     <message>
         <source>1 entity</source>
-        <translation type="unfinished"></translation>
+        <translation>1 entidad</translation>
     </message>
     <message numerus="yes">
         <source>%n entities</source>
@@ -2284,7 +2288,7 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
     <message>
         <source>1 variable</source>
-        <translation type="unfinished"></translation>
+        <translation>1 variable</translation>
     </message>
     <message numerus="yes">
         <source>%n variables</source>

@@ -229,7 +229,7 @@ La conserver comme RefCode&#xa0;?</translation>
     </message>
     <message>
         <source>End as soon as the window is there, to try an installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se termine dès que la fenêtre apparaît, pour essayer une installation.</translation>
     </message>
     <message>
         <source>The dictionary to open.</source>
@@ -536,71 +536,71 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::CsvHeader</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>1 field has no name and is called %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 champ n&apos;a pas de nom et s&apos;appelle %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n fields have no name and are called %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n champ n&apos;a pas de nom et s&apos;appelle %1.</numerusform>
+            <numerusform>%n champs n&apos;ont pas de nom et s&apos;appellent %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n fields have the name %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n champ porte le nom %1.</numerusform>
+            <numerusform>%n champs portent le nom %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n names belong to more than one field: %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nom est porté par plusieurs champs&#xa0;: %1.</numerusform>
+            <numerusform>%n noms sont portés par plusieurs champs&#xa0;: %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation type="unfinished"></translation>
+        <translation>n&apos;est pas un fichier texte&#xa0;: il contient des octets nuls&#xa0;; un fichier CSV en UTF-8, en UTF-16 avec marque d&apos;ordre des octets ou en Windows-1252 était attendu</translation>
     </message>
     <message>
         <source>is empty; expected the names of fields in its first line</source>
-        <translation type="unfinished"></translation>
+        <translation>est vide&#xa0;; les noms des champs étaient attendus à la première ligne</translation>
     </message>
     <message>
         <source>ends in the middle of a character; it may have been cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>s&apos;arrête au milieu d&apos;un caractère&#xa0;; il a peut-être été tronqué</translation>
     </message>
     <message>
         <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation type="unfinished"></translation>
+        <translation>contient dans le champ %1 de son en-tête un guillemet jamais refermé&#xa0;; refermez-le dans le fichier ou choisissez un autre séparateur</translation>
     </message>
     <message>
         <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>contient plus de %1 champs à la première ligne&#xa0;; un nombre inférieur était attendu</translation>
     </message>
     <message>
         <source>The names stand in line %1, below empty lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les noms se trouvent à la ligne %1, sous des lignes vides.</translation>
     </message>
     <message>
         <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est marqué comme UTF-8 mais contient d&apos;autres octets&#xa0;; il a été lu en Windows-1252.</translation>
     </message>
     <message>
         <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation type="unfinished"></translation>
+        <translation>n&apos;a pas de fin d&apos;en-tête dans les premiers %1 Mio&#xa0;; refermez les guillemets ou choisissez un autre fichier</translation>
     </message>
     <message>
         <source>cannot be read: it is a folder; choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ne peut pas être lu&#xa0;: c&apos;est un dossier&#xa0;; choisissez un fichier</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
@@ -611,178 +611,178 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs CSV</translation>
     </message>
     <message>
         <source>Opens a CSV file; only its header is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre un fichier CSV&#xa0;; seul l&apos;en-tête est lu.</translation>
     </message>
     <message>
         <source>Open a CSV file to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez un fichier CSV pour voir ici ses champs.</translation>
     </message>
     <message>
         <source>Separator of the CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateur du fichier CSV</translation>
     </message>
     <message>
         <source>What stands between the fields; a choice reads the header again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui sépare les champs&#xa0;; un nouveau choix fait relire l&apos;en-tête.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Point-virgule</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre verticale</translation>
     </message>
     <message>
         <source>&amp;Separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sépa&amp;rateur&#xa0;:</translation>
     </message>
     <message>
         <source>Open a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier CSV</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers CSV (*.csv *.txt *.tsv);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1: 1 field in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: 1 champ en %2.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields in %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;: %n champ en %2.</numerusform>
+            <numerusform>%1&#xa0;: %n champs en %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Separator: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateur&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatabasePage</name>
     <message>
         <source>B&amp;rowse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;rcourir…</translation>
     </message>
     <message>
         <source>Choose the folder of the database</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier de la base de données</translation>
     </message>
     <message>
         <source>Bro&amp;wse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Par&amp;courir…</translation>
     </message>
     <message>
         <source>Choose the source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier source</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms absents du dictionnaire</translation>
     </message>
     <message>
         <source>Values that saving does not keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs que l&apos;enregistrement ne conserve pas</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de données</translation>
     </message>
     <message>
         <source>Which database is built, where, and from which source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle base de données est construite, où, et à partir de quel fichier source.</translation>
     </message>
     <message>
         <source>Database name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de la base de données</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>The folder in which the database is built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier dans lequel la base de données est construite.</translation>
     </message>
     <message>
         <source>Source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier source</translation>
     </message>
     <message>
         <source>The main source file, whose records the dictionary describes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier source principal, dont le dictionnaire décrit les enregistrements.</translation>
     </message>
     <message>
         <source>&amp;Database name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de la base de &amp;données&#xa0;:</translation>
     </message>
     <message>
         <source>F&amp;older:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;ossier&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Source file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier so&amp;urce&#xa0;:</translation>
     </message>
     <message>
         <source>Give the database a name to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour continuer, donnez un nom à la base de données.</translation>
     </message>
     <message>
         <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>Le traitement nomme des éléments absents du dictionnaire&#xa0;; ils sont conservés à l&apos;enregistrement du traitement&#xa0;:</translation>
     </message>
     <message>
         <source>Saving loses or changes these values of the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;enregistrement perd ou modifie ces valeurs du fichier&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatasetSourceTab</name>
     <message>
         <source>Dataset fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs du jeu de données</translation>
     </message>
     <message>
         <source>Opens a dataset; only the description of its fields is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre un jeu de données&#xa0;; seule la description de ses champs est lue.</translation>
     </message>
     <message>
         <source>Open a dataset to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez un jeu de données pour voir ici ses champs.</translation>
     </message>
     <message>
         <source>The dataset has no fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jeu de données n&apos;a pas de champs.</translation>
     </message>
     <message>
         <source>%1: 1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: 1 champ.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;: %n champ.</numerusform>
+            <numerusform>%1&#xa0;: %n champs.</numerusform>
         </translation>
     </message>
 </context>
@@ -801,27 +801,27 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Which entities of the dictionary take part in the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelles entités du dictionnaire participent au traitement.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entités du traitement</translation>
     </message>
     <message>
         <source>&amp;Tick the entities, with the mouse or the space bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cochez les entités avec la souris ou la barre d&apos;espace&#xa0;:</translation>
     </message>
     <message>
         <source>%1 ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochées&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet; add some before you plan a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dictionnaire n&apos;a pas encore d&apos;entités&#xa0;; ajoutez-en avant de préparer un traitement.</translation>
     </message>
     <message>
         <source>Tick at least one entity to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour continuer, cochez au moins une entité.</translation>
     </message>
 </context>
 <context>
@@ -852,11 +852,11 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Label var&amp;iable</source>
-        <translation type="unfinished"></translation>
+        <translation>Va&amp;riable de libellé</translation>
     </message>
     <message>
         <source>Virt&amp;ual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virt&amp;uelle</translation>
     </message>
 </context>
 <context>
@@ -882,43 +882,43 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::ExpressionDialog</name>
     <message>
         <source>&amp;Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier dans le presse-papiers</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression</translation>
     </message>
     <message>
         <source>Double-click in the lists, drag from them, or write here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Double-cliquez dans les listes, faites glisser leurs éléments ou écrivez ici.</translation>
     </message>
     <message>
         <source>E&amp;xpression:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xpression&#xa0;:</translation>
     </message>
     <message>
         <source>The expression is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;expression est dans le presse-papiers.</translation>
     </message>
     <message>
         <source>&amp;Show:</source>
-        <translation type="unfinished"></translation>
+        <translation>Affic&amp;her&#xa0;:</translation>
     </message>
     <message>
         <source>Show entities and variables by</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les entités et les variables par</translation>
     </message>
     <message>
         <source>Names</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellés</translation>
     </message>
     <message>
         <source>Names and labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms et libellés</translation>
     </message>
     <message>
         <source>&amp;Entities</source>
@@ -926,7 +926,7 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>&amp;Insert entity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insérer l&apos;entité</translation>
     </message>
     <message>
         <source>&amp;Variables</source>
@@ -934,75 +934,75 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Insert va&amp;riable</source>
-        <translation type="unfinished"></translation>
+        <translation>Insé&amp;rer la variable</translation>
     </message>
     <message>
         <source>Ca&amp;tegories</source>
-        <translation type="unfinished"></translation>
+        <translation>Caté&amp;gories</translation>
     </message>
     <message>
         <source>Insert cate&amp;gory</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer la ca&amp;tégorie</translation>
     </message>
     <message>
         <source>Inserts %1 at the cursor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Insère %1 à la position du curseur.</translation>
     </message>
     <message>
         <source>Equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Égal à</translation>
     </message>
     <message>
         <source>Different from</source>
-        <translation type="unfinished"></translation>
+        <translation>Différent de</translation>
     </message>
     <message>
         <source>Less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Inférieur à</translation>
     </message>
     <message>
         <source>Less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Inférieur ou égal à</translation>
     </message>
     <message>
         <source>Greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>Supérieur à</translation>
     </message>
     <message>
         <source>Greater than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Supérieur ou égal à</translation>
     </message>
     <message>
         <source>And: both sides hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Et&#xa0;: les deux côtés sont vrais</translation>
     </message>
     <message>
         <source>Or: one side holds at least</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou&#xa0;: un côté au moins est vrai</translation>
     </message>
     <message>
         <source>Not: what follows does not hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Non&#xa0;: ce qui suit n&apos;est pas vrai</translation>
     </message>
     <message>
         <source>Opening bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Parenthèse ouvrante</translation>
     </message>
     <message>
         <source>Closing bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Parenthèse fermante</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier dans le presse-papiers</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
@@ -1010,27 +1010,27 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Copies the whole expression (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie toute l&apos;expression (%1).</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dictionnaire n&apos;a pas encore d&apos;entités.</translation>
     </message>
     <message>
         <source>%1 has no variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas de variables.</translation>
     </message>
     <message>
         <source>The variables of an entity are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les variables d&apos;une entité s&apos;affichent ici.</translation>
     </message>
     <message>
         <source>%1 has no categories.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas de catégories.</translation>
     </message>
     <message>
         <source>The categories of a variable are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les catégories d&apos;une variable s&apos;affichent ici.</translation>
     </message>
 </context>
 <context>
@@ -1124,7 +1124,7 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>The unsaved work was put aside as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le travail non enregistré a été mis de côté sous %1.</translation>
     </message>
 </context>
 <context>
@@ -1169,9 +1169,9 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message numerus="yes">
         <source>%n labels copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n libellé copié.</numerusform>
+            <numerusform>%n libellés copiés.</numerusform>
         </translation>
     </message>
 </context>
@@ -1179,11 +1179,11 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::LookupList</name>
     <message>
         <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>une liste de tables de référence, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], ou un objet contenant une telle liste sous &quot;lookups&quot; était attendu</translation>
     </message>
     <message>
         <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la table de référence %1 n&apos;est pas conforme&#xa0;; un objet contenant les textes &quot;id&quot;, qui ne doit pas être vide, et &quot;label&quot; était attendu</translation>
     </message>
     <message>
         <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
@@ -1194,37 +1194,37 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::LookupSourceTab</name>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tables de référence</translation>
     </message>
     <message>
         <source>Opens a list of lookups in JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre une liste de tables de référence en JSON.</translation>
     </message>
     <message>
         <source>Open a list of lookups to see them here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez une liste de tables de référence pour les voir ici.</translation>
     </message>
     <message>
         <source>The list of lookups is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste de tables de référence est vide.</translation>
     </message>
     <message>
         <source>Open a list of lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une liste de tables de référence</translation>
     </message>
     <message>
         <source>Lists of lookups (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes de tables de référence (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1: 1 lookup.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: 1 table de référence.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n lookups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1&#xa0;: %n table de référence.</numerusform>
+            <numerusform>%1&#xa0;: %n tables de référence.</numerusform>
         </translation>
     </message>
 </context>
@@ -1556,26 +1556,30 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Open the sa&amp;mple census</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le recensement d&apos;e&amp;xemple</translation>
     </message>
     <message>
         <source>&amp;Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Varia&amp;ble</translation>
     </message>
     <message numerus="yes">
         <source>%n problems found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problème trouvé.</numerusform>
+            <numerusform>%n problèmes trouvés.</numerusform>
         </translation>
     </message>
     <message>
         <source>La&amp;bels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libellés</translation>
     </message>
     <message>
         <source>Entit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntité</translation>
+    </message>
+    <message>
+        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
+        <translation>Les fichiers de ce type ne peuvent pas encore être lus&#xa0;; ouvrez un fichier CSV ou une liste de tables de référence.</translation>
     </message>
 </context>
 <context>
@@ -1597,31 +1601,31 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer les codes non applicable et &amp;manquant à l&apos;intérieur des plages</translation>
     </message>
     <message>
         <source>Create no &amp;ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas créer de pla&amp;ges</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>How the database is built, as a whole and entity by entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment la base de données est construite, dans son ensemble et entité par entité.</translation>
     </message>
     <message>
         <source>Create not-applicable and missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer les codes non applicable et manquant à l&apos;intérieur des plages</translation>
     </message>
     <message>
         <source>Create no ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas créer de plages</translation>
     </message>
     <message>
         <source>Options of each entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de chaque entité</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -1629,39 +1633,39 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type d&apos;enregistrement</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Composé</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier la séquence</translation>
     </message>
     <message>
         <source>The record type that tells the entity&apos;s records in the source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le type d&apos;enregistrement qui distingue les enregistrements de l&apos;entité dans le fichier source.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createCompound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transmis comme createCompound au programme qui construit la base de données.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createSDC.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transmis comme createSDC au programme qui construit la base de données.</translation>
     </message>
     <message>
         <source>The sequence of the entity&apos;s records is checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>La séquence des enregistrements de l&apos;entité est vérifiée.</translation>
     </message>
     <message>
         <source>&amp;Options of each entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Options de chaque entité&#xa0;:</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1718,42 +1722,42 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::RunPlan</name>
     <message>
         <source>is a dictionary, not a run configuration; open it with File, Open</source>
-        <translation type="unfinished"></translation>
+        <translation>est un dictionnaire, pas une configuration de traitement&#xa0;; ouvrez-le par Fichier, Ouvrir</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::RunWizard</name>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished">%1&#xa0;: %2. {1:?}</translation>
+        <translation>%1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4.</source>
-        <translation type="unfinished">%1, ligne %2, colonne %3&#xa0;: %4. {1,?} {2,?} {3:?}</translation>
+        <translation>%1, ligne %2, colonne %3&#xa0;: %4.</translation>
     </message>
     <message>
         <source>Run wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistant de traitement</translation>
     </message>
     <message>
         <source>New run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau traitement</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Traitement %1</translation>
     </message>
     <message>
         <source>The run has changes that are not saved. Throw them away?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le traitement comporte des modifications non enregistrées. Les abandonner&#xa0;?</translation>
     </message>
     <message>
         <source>run.json</source>
-        <translation type="unfinished"></translation>
+        <translation>traitement.json</translation>
     </message>
     <message>
         <source>Save the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le traitement</translation>
     </message>
     <message>
         <source>Run configurations (*.json);;All files (*)</source>
@@ -1761,7 +1765,7 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>%1: holds the dictionary itself; choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: contient le dictionnaire lui-même&#xa0;; choisissez un autre fichier.</translation>
     </message>
 </context>
 <context>
@@ -1791,38 +1795,38 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::SearchLine</name>
     <message>
         <source>Search name, label, alias, group…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher nom, libellé, alias, groupe…</translation>
     </message>
     <message>
         <source>A text or a regular expression; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte ou une expression régulière&#xa0;; la casse n&apos;est pas prise en compte.</translation>
     </message>
     <message>
         <source>This is no valid regular expression: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas une expression régulière valide&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SelectionPage</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été choisi&#xa0;: une coche indique toutes les variables d&apos;une entité, une coche partielle certaines d&apos;entre elles, une case vide aucune.</translation>
     </message>
     <message>
         <source>Variables taken of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables retenues de l&apos;entité</translation>
     </message>
     <message>
         <source>&amp;Selection:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sé&amp;lection&#xa0;:</translation>
     </message>
     <message>
         <source>Go to an entity to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Allez à une entité pour voir ses variables.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1833,22 +1837,22 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::SourceFilter</name>
     <message>
         <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie d&apos;un texte ou une expression régulière telle que ^P0[1-9]&#xa0;; la casse n&apos;est pas prise en compte.</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce motif n&apos;est pas complet (%1)&#xa0;; le dernier motif complet reste utilisé.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourceTab</name>
     <message>
         <source>&amp;Add to table</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter au tableau</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
@@ -1856,50 +1860,50 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée des variables à partir des lignes sélectionnées&#xa0;; Entrée, le double-clic et le glisser-déposer aussi.</translation>
     </message>
     <message>
         <source>Open a file for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier pour&#xa0;: %1</translation>
     </message>
     <message>
         <source>Filter of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de&#xa0;: %1</translation>
     </message>
     <message>
         <source>Add the selected rows to the table of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les lignes sélectionnées au tableau des variables</translation>
     </message>
     <message>
         <source>%L1 of %L2</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 sur %L2</translation>
     </message>
     <message>
         <source>No row matches the filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne correspond au filtre.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourcesPane</name>
     <message>
         <source>Sources of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Sources de variables</translation>
     </message>
     <message>
         <source>Kind of source</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de source</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>Dataset</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu de données</translation>
     </message>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tables de référence</translation>
     </message>
 </context>
 <context>
@@ -1925,16 +1929,16 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>Voir le recensement d&apos;e&amp;xemple</translation>
     </message>
     <message>
-        <source>&amp;Recent files</source>
-        <translation>Fichiers &amp;récents</translation>
-    </message>
-    <message>
         <source>Recent files</source>
         <translation>Fichiers récents</translation>
     </message>
     <message>
         <source>%1  —  %2</source>
         <translation>%1  —  %2</translation>
+    </message>
+    <message>
+        <source>Re&amp;cent files</source>
+        <translation>Fichiers &amp;récents</translation>
     </message>
 </context>
 <context>
@@ -2005,19 +2009,19 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::SummaryPage</name>
     <message>
         <source>Kept, though the dictionary does not have them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservés, bien qu&apos;absents du dictionnaire&#xa0;:</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>What Finish writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit lorsque vous terminez.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entités du traitement</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -2029,51 +2033,51 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type d&apos;enregistrement</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms absents du dictionnaire</translation>
     </message>
     <message>
         <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dictionnaire a été modifié depuis l&apos;ouverture de cette fenêtre&#xa0;; le traitement est préparé sur ce qu&apos;il contenait alors.</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Composé</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier la séquence</translation>
     </message>
     <message>
         <source>not in the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>absente du dictionnaire</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>The run &quot;%1&quot; takes %2 and %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le traitement «&#xa0;%1&#xa0;» comprend %2 et %3.</translation>
     </message>
     <message>
         <source>The run is written to a file that you are asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le traitement est écrit dans un fichier qui vous sera demandé.</translation>
     </message>
     <message>
         <source>The run is written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le traitement est écrit dans %1.</translation>
     </message>
 </context>
 <context>
@@ -2087,7 +2091,7 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::TableView</name>
     <message>
         <source>Nothing matches the search. Esc clears it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne correspond à la recherche. Échap l&apos;efface.</translation>
     </message>
 </context>
 <context>
@@ -2114,23 +2118,23 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>De&amp;cimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimale&amp;s</translation>
     </message>
     <message>
         <source>Not &amp;applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;on applicable</translation>
     </message>
     <message>
         <source>Rec&amp;ord</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;registrement</translation>
     </message>
     <message>
         <source>F&amp;ield</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hamp</translation>
     </message>
     <message>
         <source>Doc&amp;umentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Docu&amp;mentation</translation>
     </message>
 </context>
 <context>
@@ -2194,31 +2198,31 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <name>tessel::editor::VariablesPage</name>
     <message>
         <source>All &amp;variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les &amp;variables de cette entité</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>To&amp;utes</translation>
     </message>
     <message>
         <source>Tick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocher toutes les variables affichées</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aucune</translation>
     </message>
     <message>
         <source>Untick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Décocher toutes les variables affichées</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inverser</translation>
     </message>
     <message>
         <source>Turn the ticks that are shown over</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser les coches affichées</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2226,19 +2230,19 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelles variables de chaque entité sont retenues. Celles qui contiennent son code, son libellé et sa pondération n&apos;ont pas à être choisies.</translation>
     </message>
     <message>
         <source>Ticked entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Entités cochées</translation>
     </message>
     <message>
         <source>All variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les variables de cette entité</translation>
     </message>
     <message>
         <source>Takes every variable, also those that the dictionary gets later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retient toutes les variables, y compris celles ajoutées plus tard au dictionnaire.</translation>
     </message>
     <message>
         <source>Search variables</source>
@@ -2246,34 +2250,34 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>Variables of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables de l&apos;entité</translation>
     </message>
     <message>
         <source>&amp;Entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entité&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;chercher&#xa0;:</translation>
     </message>
     <message>
         <source>%1 (all)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (toutes)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, not a valid pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, motif non valide</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::WizardText</name>
     <message>
         <source>1 entity</source>
-        <translation type="unfinished"></translation>
+        <translation>1 entité</translation>
     </message>
     <message numerus="yes">
         <source>%n entities</source>
@@ -2284,7 +2288,7 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
     <message>
         <source>1 variable</source>
-        <translation type="unfinished"></translation>
+        <translation>1 variable</translation>
     </message>
     <message numerus="yes">
         <source>%n variables</source>

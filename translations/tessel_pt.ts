@@ -229,7 +229,7 @@ Mantê-la como RefCode?</translation>
     </message>
     <message>
         <source>End as soon as the window is there, to try an installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina assim que a janela aparece, para testar uma instalação.</translation>
     </message>
     <message>
         <source>The dictionary to open.</source>
@@ -536,71 +536,71 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::CsvHeader</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 e mais %n</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
         </translation>
     </message>
     <message>
         <source>1 field has no name and is called %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 campo não tem nome e se chama %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n fields have no name and are called %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo não tem nome e se chama %1.</numerusform>
+            <numerusform>%n campos não têm nome e se chamam %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n fields have the name %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo tem o nome %1.</numerusform>
+            <numerusform>%n campos têm o nome %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n names belong to more than one field: %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nome pertence a mais de um campo: %1.</numerusform>
+            <numerusform>%n nomes pertencem a mais de um campo: %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation type="unfinished"></translation>
+        <translation>não é um arquivo de texto: contém bytes nulos; esperava-se um arquivo CSV em UTF-8, em UTF-16 com marca de ordem de bytes ou em Windows-1252</translation>
     </message>
     <message>
         <source>is empty; expected the names of fields in its first line</source>
-        <translation type="unfinished"></translation>
+        <translation>está vazio; esperavam-se os nomes dos campos na primeira linha</translation>
     </message>
     <message>
         <source>ends in the middle of a character; it may have been cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>termina no meio de um caractere; pode ter sido truncado</translation>
     </message>
     <message>
         <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation type="unfinished"></translation>
+        <translation>tem no campo %1 do cabeçalho aspas que não são fechadas; feche-as no arquivo ou escolha outro separador</translation>
     </message>
     <message>
         <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>tem mais de %1 campos na primeira linha; esperavam-se menos</translation>
     </message>
     <message>
         <source>The names stand in line %1, below empty lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os nomes estão na linha %1, abaixo de linhas vazias.</translation>
     </message>
     <message>
         <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo está marcado como UTF-8, mas contém outros bytes; foi lido como Windows-1252.</translation>
     </message>
     <message>
         <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation type="unfinished"></translation>
+        <translation>não tem o fim do cabeçalho nos primeiros %1 MiB; feche as aspas ou escolha outro arquivo</translation>
     </message>
     <message>
         <source>cannot be read: it is a folder; choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>não pode ser lido: é uma pasta; escolha um arquivo</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
@@ -611,178 +611,178 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos CSV</translation>
     </message>
     <message>
         <source>Opens a CSV file; only its header is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre um arquivo CSV; só o cabeçalho é lido.</translation>
     </message>
     <message>
         <source>Open a CSV file to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra um arquivo CSV para ver aqui seus campos.</translation>
     </message>
     <message>
         <source>Separator of the CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador do arquivo CSV</translation>
     </message>
     <message>
         <source>What stands between the fields; a choice reads the header again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O que separa os campos; ao escolher outro, o cabeçalho é lido de novo.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Vírgula</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponto e vírgula</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulação</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra vertical</translation>
     </message>
     <message>
         <source>&amp;Separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Separador:</translation>
     </message>
     <message>
         <source>Open a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir um arquivo CSV</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos CSV (*.csv *.txt *.tsv);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>%1: 1 field in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 campo em %2.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields in %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n campo em %2.</numerusform>
+            <numerusform>%1: %n campos em %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Separator: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatabasePage</name>
     <message>
         <source>B&amp;rowse…</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;rocurar…</translation>
     </message>
     <message>
         <source>Choose the folder of the database</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher a pasta do banco de dados</translation>
     </message>
     <message>
         <source>Bro&amp;wse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro&amp;curar…</translation>
     </message>
     <message>
         <source>Choose the source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher o arquivo de origem</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomes que o dicionário não contém</translation>
     </message>
     <message>
         <source>Values that saving does not keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores que não são mantidos ao salvar</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Banco de dados</translation>
     </message>
     <message>
         <source>Which database is built, where, and from which source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qual banco de dados é construído, onde e a partir de qual arquivo de origem.</translation>
     </message>
     <message>
         <source>Database name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do banco de dados</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasta</translation>
     </message>
     <message>
         <source>The folder in which the database is built.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta em que o banco de dados é construído.</translation>
     </message>
     <message>
         <source>Source file</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo de origem</translation>
     </message>
     <message>
         <source>The main source file, whose records the dictionary describes.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo de origem principal, cujos registros o dicionário descreve.</translation>
     </message>
     <message>
         <source>&amp;Database name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do banco de &amp;dados:</translation>
     </message>
     <message>
         <source>F&amp;older:</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;asta:</translation>
     </message>
     <message>
         <source>&amp;Source file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo de ori&amp;gem:</translation>
     </message>
     <message>
         <source>Give the database a name to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para continuar, dê um nome ao banco de dados.</translation>
     </message>
     <message>
         <source>The run names what the dictionary does not have; it is kept when the run is saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>O processamento cita itens que o dicionário não contém; eles são mantidos ao salvar o processamento:</translation>
     </message>
     <message>
         <source>Saving loses or changes these values of the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ao salvar, estes valores do arquivo são perdidos ou alterados:</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::DatasetSourceTab</name>
     <message>
         <source>Dataset fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos do conjunto de dados</translation>
     </message>
     <message>
         <source>Opens a dataset; only the description of its fields is read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre um conjunto de dados; só a descrição de seus campos é lida.</translation>
     </message>
     <message>
         <source>Open a dataset to see its fields here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra um conjunto de dados para ver aqui seus campos.</translation>
     </message>
     <message>
         <source>The dataset has no fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>O conjunto de dados não tem campos.</translation>
     </message>
     <message>
         <source>%1: 1 field.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 campo.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n fields.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n campo.</numerusform>
+            <numerusform>%1: %n campos.</numerusform>
         </translation>
     </message>
 </context>
@@ -801,34 +801,34 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Which entities of the dictionary take part in the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quais entidades do dicionário participam do processamento.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades do processamento</translation>
     </message>
     <message>
         <source>&amp;Tick the entities, with the mouse or the space bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marque as entidades com o mouse ou a barra de espaço:</translation>
     </message>
     <message>
         <source>%1 ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcadas: %1.</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet; add some before you plan a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>O dicionário ainda não tem entidades; adicione algumas antes de planejar um processamento.</translation>
     </message>
     <message>
         <source>Tick at least one entity to go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para continuar, marque pelo menos uma entidade.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::EntityForm</name>
     <message>
         <source>&amp;Label</source>
-        <translation>&amp;Rótulo</translation>
+        <translation>Rótu&amp;lo</translation>
     </message>
     <message>
         <source>&amp;Alias</source>
@@ -848,15 +848,15 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>D&amp;ocumentation</source>
-        <translation>Documen&amp;tação</translation>
+        <translation>Docu&amp;mentação</translation>
     </message>
     <message>
         <source>Label var&amp;iable</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variável de rótulo</translation>
     </message>
     <message>
         <source>Virt&amp;ual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virt&amp;ual</translation>
     </message>
 </context>
 <context>
@@ -882,43 +882,43 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::ExpressionDialog</name>
     <message>
         <source>&amp;Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar para a área de transferência</translation>
     </message>
     <message>
         <source>Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expressão</translation>
     </message>
     <message>
         <source>Double-click in the lists, drag from them, or write here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique duas vezes nas listas, arraste a partir delas ou escreva aqui.</translation>
     </message>
     <message>
         <source>E&amp;xpression:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xpressão:</translation>
     </message>
     <message>
         <source>The expression is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A expressão está na área de transferência.</translation>
     </message>
     <message>
         <source>&amp;Show:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exi&amp;bir:</translation>
     </message>
     <message>
         <source>Show entities and variables by</source>
-        <translation type="unfinished"></translation>
+        <translation>Exibir entidades e variáveis por</translation>
     </message>
     <message>
         <source>Names</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomes</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulos</translation>
     </message>
     <message>
         <source>Names and labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomes e rótulos</translation>
     </message>
     <message>
         <source>&amp;Entities</source>
@@ -926,7 +926,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>&amp;Insert entity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inserir entidade</translation>
     </message>
     <message>
         <source>&amp;Variables</source>
@@ -934,75 +934,75 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Insert va&amp;riable</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;serir variável</translation>
     </message>
     <message>
         <source>Ca&amp;tegories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ca&amp;tegorias</translation>
     </message>
     <message>
         <source>Insert cate&amp;gory</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir cate&amp;goria</translation>
     </message>
     <message>
         <source>Inserts %1 at the cursor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Insere %1 na posição do cursor.</translation>
     </message>
     <message>
         <source>Equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual a</translation>
     </message>
     <message>
         <source>Different from</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferente de</translation>
     </message>
     <message>
         <source>Less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor que</translation>
     </message>
     <message>
         <source>Less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor ou igual a</translation>
     </message>
     <message>
         <source>Greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>Maior que</translation>
     </message>
     <message>
         <source>Greater than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Maior ou igual a</translation>
     </message>
     <message>
         <source>And: both sides hold</source>
-        <translation type="unfinished"></translation>
+        <translation>E: os dois lados são verdadeiros</translation>
     </message>
     <message>
         <source>Or: one side holds at least</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou: pelo menos um lado é verdadeiro</translation>
     </message>
     <message>
         <source>Not: what follows does not hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Não: o que segue não é verdadeiro</translation>
     </message>
     <message>
         <source>Opening bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre parêntese</translation>
     </message>
     <message>
         <source>Closing bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha parêntese</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar para a área de transferência</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fechar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
@@ -1010,27 +1010,27 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Copies the whole expression (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia toda a expressão (%1).</translation>
     </message>
     <message>
         <source>The dictionary has no entities yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>O dicionário ainda não tem entidades.</translation>
     </message>
     <message>
         <source>%1 has no variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não tem variáveis.</translation>
     </message>
     <message>
         <source>The variables of an entity are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>As variáveis de uma entidade são exibidas aqui.</translation>
     </message>
     <message>
         <source>%1 has no categories.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não tem categorias.</translation>
     </message>
     <message>
         <source>The categories of a variable are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>As categorias de uma variável são exibidas aqui.</translation>
     </message>
 </context>
 <context>
@@ -1124,7 +1124,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>The unsaved work was put aside as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>O trabalho não salvo foi separado como %1.</translation>
     </message>
 </context>
 <context>
@@ -1169,9 +1169,9 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message numerus="yes">
         <source>%n labels copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rótulo copiado.</numerusform>
+            <numerusform>%n rótulos copiados.</numerusform>
         </translation>
     </message>
 </context>
@@ -1179,11 +1179,11 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::LookupList</name>
     <message>
         <source>expected a list of lookups, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], or an object with such a list under &quot;lookups&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>esperava-se uma lista de tabelas de referência, [{&quot;id&quot;: &quot;...&quot;, &quot;label&quot;: &quot;...&quot;}, ...], ou um objeto com essa lista em &quot;lookups&quot;</translation>
     </message>
     <message>
         <source>lookup %1 is not as expected; expected an object with the texts &quot;id&quot;, which must not be empty, and &quot;label&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>a tabela de referência %1 não é como se esperava; esperava-se um objeto com os textos &quot;id&quot;, que não deve estar vazio, e &quot;label&quot;</translation>
     </message>
     <message>
         <source>expected text in UTF-8, found UTF-16; save the file in UTF-8</source>
@@ -1194,37 +1194,37 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::LookupSourceTab</name>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas de referência</translation>
     </message>
     <message>
         <source>Opens a list of lookups in JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre uma lista de tabelas de referência em JSON.</translation>
     </message>
     <message>
         <source>Open a list of lookups to see them here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra uma lista de tabelas de referência para vê-las aqui.</translation>
     </message>
     <message>
         <source>The list of lookups is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>A lista de tabelas de referência está vazia.</translation>
     </message>
     <message>
         <source>Open a list of lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir uma lista de tabelas de referência</translation>
     </message>
     <message>
         <source>Lists of lookups (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas de tabelas de referência (*.json);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>%1: 1 lookup.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 1 tabela de referência.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n lookups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n tabela de referência.</numerusform>
+            <numerusform>%1: %n tabelas de referência.</numerusform>
         </translation>
     </message>
 </context>
@@ -1232,7 +1232,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Arquivo</translation>
+        <translation>Ar&amp;quivo</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -1476,7 +1476,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>Aj&amp;uda</translation>
+        <translation>A&amp;juda</translation>
     </message>
     <message>
         <source>&amp;Keys</source>
@@ -1556,26 +1556,30 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Open the sa&amp;mple census</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir o censo de e&amp;xemplo</translation>
     </message>
     <message>
         <source>&amp;Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáve&amp;l</translation>
     </message>
     <message numerus="yes">
         <source>%n problems found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problema encontrado.</numerusform>
+            <numerusform>%n problemas encontrados.</numerusform>
         </translation>
     </message>
     <message>
         <source>La&amp;bels</source>
-        <translation type="unfinished"></translation>
+        <translation>Ró&amp;tulos</translation>
     </message>
     <message>
         <source>Entit&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntidade</translation>
+    </message>
+    <message>
+        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
+        <translation>Ainda não é possível ler arquivos deste tipo; abra um arquivo CSV ou uma lista de tabelas de referência.</translation>
     </message>
 </context>
 <context>
@@ -1597,31 +1601,31 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Criar os códigos de não se aplica e de a&amp;usente dentro dos intervalos</translation>
     </message>
     <message>
         <source>Create no &amp;ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Não criar &amp;intervalos</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções</translation>
     </message>
     <message>
         <source>How the database is built, as a whole and entity by entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Como o banco de dados é construído, no conjunto e entidade por entidade.</translation>
     </message>
     <message>
         <source>Create not-applicable and missing codes inside the ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Criar os códigos de não se aplica e de ausente dentro dos intervalos</translation>
     </message>
     <message>
         <source>Create no ranges</source>
-        <translation type="unfinished"></translation>
+        <translation>Não criar intervalos</translation>
     </message>
     <message>
         <source>Options of each entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções de cada entidade</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -1629,39 +1633,39 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de registro</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Composto</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar sequência</translation>
     </message>
     <message>
         <source>The record type that tells the entity&apos;s records in the source file.</source>
-        <translation type="unfinished"></translation>
+        <translation>O tipo de registro que distingue os registros da entidade no arquivo de origem.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createCompound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repassado como createCompound ao programa que constrói o banco de dados.</translation>
     </message>
     <message>
         <source>Handed on to the program that builds the database, as createSDC.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repassado como createSDC ao programa que constrói o banco de dados.</translation>
     </message>
     <message>
         <source>The sequence of the entity&apos;s records is checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>A sequência dos registros da entidade é verificada.</translation>
     </message>
     <message>
         <source>&amp;Options of each entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opçõ&amp;es de cada entidade:</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1718,42 +1722,42 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::RunPlan</name>
     <message>
         <source>is a dictionary, not a run configuration; open it with File, Open</source>
-        <translation type="unfinished"></translation>
+        <translation>é um dicionário, não uma configuração de processamento; abra-o com Arquivo, Abrir</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::RunWizard</name>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished">%1: %2. {1:?}</translation>
+        <translation>%1: %2.</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4.</source>
-        <translation type="unfinished">%1, linha %2, coluna %3: %4. {1,?} {2,?} {3:?}</translation>
+        <translation>%1, linha %2, coluna %3: %4.</translation>
     </message>
     <message>
         <source>Run wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistente de processamento</translation>
     </message>
     <message>
         <source>New run</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo processamento</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Processamento %1</translation>
     </message>
     <message>
         <source>The run has changes that are not saved. Throw them away?</source>
-        <translation type="unfinished"></translation>
+        <translation>O processamento tem alterações não salvas. Descartá-las?</translation>
     </message>
     <message>
         <source>run.json</source>
-        <translation type="unfinished"></translation>
+        <translation>processamento.json</translation>
     </message>
     <message>
         <source>Save the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o processamento</translation>
     </message>
     <message>
         <source>Run configurations (*.json);;All files (*)</source>
@@ -1761,7 +1765,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>%1: holds the dictionary itself; choose another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: contém o próprio dicionário; escolha outro arquivo.</translation>
     </message>
 </context>
 <context>
@@ -1791,38 +1795,38 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::SearchLine</name>
     <message>
         <source>Search name, label, alias, group…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesquisar nome, rótulo, alias, grupo…</translation>
     </message>
     <message>
         <source>A text or a regular expression; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um texto ou uma expressão regular; não há distinção entre maiúsculas e minúsculas.</translation>
     </message>
     <message>
         <source>This is no valid regular expression: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta não é uma expressão regular válida: %1.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SelectionPage</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleção</translation>
     </message>
     <message>
         <source>What has been chosen: a tick stands for all variables of an entity, a half tick for some, an empty box for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>O que foi escolhido: uma marca indica todas as variáveis de uma entidade; uma marca parcial, algumas; uma caixa vazia, nenhuma.</translation>
     </message>
     <message>
         <source>Variables taken of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis escolhidas da entidade</translation>
     </message>
     <message>
         <source>&amp;Selection:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seleção:</translation>
     </message>
     <message>
         <source>Go to an entity to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vá até uma entidade para ver suas variáveis.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1833,73 +1837,73 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::SourceFilter</name>
     <message>
         <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de um texto ou uma expressão regular como ^P0[1-9]; não há distinção entre maiúsculas e minúsculas.</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar</translation>
     </message>
     <message>
         <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este padrão não está completo (%1); está em uso o último padrão completo.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourceTab</name>
     <message>
         <source>&amp;Add to table</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar à tabe&amp;la</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>&amp;Abrir…</translation>
+        <translation>A&amp;brir…</translation>
     </message>
     <message>
         <source>Makes variables of the selected rows; Return, a double click and dragging do so too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cria variáveis a partir das linhas selecionadas; Enter, o clique duplo e o arraste também fazem isso.</translation>
     </message>
     <message>
         <source>Open a file for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir um arquivo para: %1</translation>
     </message>
     <message>
         <source>Filter of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de: %1</translation>
     </message>
     <message>
         <source>Add the selected rows to the table of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar as linhas selecionadas à tabela de variáveis</translation>
     </message>
     <message>
         <source>%L1 of %L2</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 de %L2</translation>
     </message>
     <message>
         <source>No row matches the filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma linha corresponde ao filtro.</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::SourcesPane</name>
     <message>
         <source>Sources of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Fontes de variáveis</translation>
     </message>
     <message>
         <source>Kind of source</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de fonte</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>Dataset</source>
-        <translation type="unfinished"></translation>
+        <translation>Conjunto de dados</translation>
     </message>
     <message>
         <source>Lookups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas de referência</translation>
     </message>
 </context>
 <context>
@@ -1925,16 +1929,16 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>Ver o censo de exemp&amp;lo</translation>
     </message>
     <message>
-        <source>&amp;Recent files</source>
-        <translation>Arquivos &amp;recentes</translation>
-    </message>
-    <message>
         <source>Recent files</source>
         <translation>Arquivos recentes</translation>
     </message>
     <message>
         <source>%1  —  %2</source>
         <translation>%1  —  %2</translation>
+    </message>
+    <message>
+        <source>Re&amp;cent files</source>
+        <translation>Arquivos &amp;recentes</translation>
     </message>
 </context>
 <context>
@@ -2005,19 +2009,19 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::SummaryPage</name>
     <message>
         <source>Kept, though the dictionary does not have them:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantidos, embora o dicionário não os contenha:</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumo</translation>
     </message>
     <message>
         <source>What Finish writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>O que é gravado ao concluir.</translation>
     </message>
     <message>
         <source>Entities of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades do processamento</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -2029,51 +2033,51 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Record type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de registro</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções</translation>
     </message>
     <message>
         <source>Names that the dictionary does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomes que o dicionário não contém</translation>
     </message>
     <message>
         <source>The dictionary has been edited since this window was opened; the run is planned on what it held then.</source>
-        <translation type="unfinished"></translation>
+        <translation>O dicionário foi alterado depois que esta janela foi aberta; o processamento é planejado com o que ele continha naquele momento.</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Composto</translation>
     </message>
     <message>
         <source>SDC</source>
-        <translation type="unfinished"></translation>
+        <translation>SDC</translation>
     </message>
     <message>
         <source>Check sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar sequência</translation>
     </message>
     <message>
         <source>not in the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>não está no dicionário</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>The run &quot;%1&quot; takes %2 and %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>O processamento “%1” inclui %2 e %3.</translation>
     </message>
     <message>
         <source>The run is written to a file that you are asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>O processamento é gravado em um arquivo que lhe será pedido.</translation>
     </message>
     <message>
         <source>The run is written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>O processamento é gravado em %1.</translation>
     </message>
 </context>
 <context>
@@ -2087,7 +2091,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::TableView</name>
     <message>
         <source>Nothing matches the search. Esc clears it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada corresponde à pesquisa. Esc a limpa.</translation>
     </message>
 </context>
 <context>
@@ -2102,11 +2106,11 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>&amp;Missing</source>
-        <translation>Au&amp;sente</translation>
+        <translation>&amp;Valor ausente</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation>I&amp;nício</translation>
+        <translation>Iní&amp;cio</translation>
     </message>
     <message>
         <source>&amp;Length</source>
@@ -2114,23 +2118,23 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>De&amp;cimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimai&amp;s</translation>
     </message>
     <message>
         <source>Not &amp;applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Não se ap&amp;lica</translation>
     </message>
     <message>
         <source>Rec&amp;ord</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;gistro</translation>
     </message>
     <message>
         <source>F&amp;ield</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ampo</translation>
     </message>
     <message>
         <source>Doc&amp;umentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Doc&amp;umentação</translation>
     </message>
 </context>
 <context>
@@ -2194,31 +2198,31 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <name>tessel::editor::VariablesPage</name>
     <message>
         <source>All &amp;variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas as va&amp;riáveis desta entidade</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas</translation>
     </message>
     <message>
         <source>Tick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todas as variáveis exibidas</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhu&amp;ma</translation>
     </message>
     <message>
         <source>Untick all variables that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todas as variáveis exibidas</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inverter</translation>
     </message>
     <message>
         <source>Turn the ticks that are shown over</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverter as marcas exibidas</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2226,19 +2230,19 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Which variables of each entity are taken. Those that hold its code, label and weight need not be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quais variáveis de cada entidade são usadas. As que contêm seu código, seu rótulo e seu peso não precisam ser escolhidas.</translation>
     </message>
     <message>
         <source>Ticked entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades marcadas</translation>
     </message>
     <message>
         <source>All variables of this entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas as variáveis desta entidade</translation>
     </message>
     <message>
         <source>Takes every variable, also those that the dictionary gets later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa todas as variáveis, inclusive as que forem adicionadas depois ao dicionário.</translation>
     </message>
     <message>
         <source>Search variables</source>
@@ -2246,34 +2250,34 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>Variables of the entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis da entidade</translation>
     </message>
     <message>
         <source>&amp;Entity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entidade:</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pe&amp;squisar:</translation>
     </message>
     <message>
         <source>%1 (all)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (todas)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, not a valid pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, padrão inválido</translation>
     </message>
 </context>
 <context>
     <name>tessel::editor::WizardText</name>
     <message>
         <source>1 entity</source>
-        <translation type="unfinished"></translation>
+        <translation>1 entidade</translation>
     </message>
     <message numerus="yes">
         <source>%n entities</source>
@@ -2284,7 +2288,7 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
     <message>
         <source>1 variable</source>
-        <translation type="unfinished"></translation>
+        <translation>1 variável</translation>
     </message>
     <message numerus="yes">
         <source>%n variables</source>

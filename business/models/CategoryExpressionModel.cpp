@@ -23,9 +23,12 @@ QString CategoryExpressionModel::textOf(const ValueLabelElement &category) const
     return category.getValue() + QLatin1Char('-') + category.getLabel();
 }
 
+// Past what the other lists have, to Qt's own: meant so.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 QStringList CategoryExpressionModel::mimeTypes() const { return QAbstractItemModel::mimeTypes(); }
 
 Qt::DropActions CategoryExpressionModel::supportedDropActions() const
 {
     return QAbstractItemModel::supportedDropActions();
 }
+// NOLINTEND(bugprone-parent-virtual-call)

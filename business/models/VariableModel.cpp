@@ -28,6 +28,7 @@ bool VariableModel::isTickable(const TDmVariable &variable) const { return varia
 
 Qt::ItemFlags VariableModel::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    // Qt's own: the other two lists have none for an invalid index.
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index); // NOLINT(bugprone-parent-virtual-call)
     return index.column() == 0 ? flags | Qt::ItemIsUserCheckable : flags;
 }

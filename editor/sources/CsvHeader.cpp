@@ -219,7 +219,7 @@ private:
             return text.mid(start, end - start);
         const QByteArray part = bytes.mid(mark.size + start, end - start);
         QTextCodec::ConverterState strict(QTextCodec::IgnoreHeader);
-        const QString unicode = decoded("UTF-8", part, strict);
+        QString unicode = decoded("UTF-8", part, strict);
         header.encoding = QStringLiteral("UTF-8");
         if (strict.invalidChars == 0 && strict.remainingChars == 0)
             return unicode;

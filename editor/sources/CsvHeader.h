@@ -28,7 +28,7 @@ public:
     static constexpr int kMostBytes = 4 * 1024 * 1024;
 
     /// A header with more fields is taken for something else.
-    static constexpr int kMostFields = 100'000;
+    static constexpr int kMostFields = 100000;
 
     /// Comma, semicolon, tab and bar, in the order in which they win when a header has as many of the one as
     /// of the other.

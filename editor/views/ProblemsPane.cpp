@@ -58,6 +58,7 @@ void ProblemsPane::check()
         items.append(item);
     }
     list->addTopLevelItems(items);
+    list->resizeColumnToContents(2);
     for (QTreeWidgetItem *item : qAsConst(items)) {
         if (keyOf(item) == current) {
             list->setCurrentItem(item);

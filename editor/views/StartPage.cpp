@@ -45,7 +45,7 @@ StartPage::StartPage(QWidget *parent)
         layout->addWidget(button);
     }
     layout->addSpacing(12);
-    auto *recentTitle = new QLabel(tr("&Recent files"), this);
+    auto *recentTitle = new QLabel(tr("Re&cent files"), this);
     recentTitle->setBuddy(recent);
     layout->addWidget(recentTitle);
     recent->setObjectName(QStringLiteral("recent"));

@@ -329,6 +329,21 @@ private slots:
         QCOMPARE(outcome.result->fields.size(), std::size_t(2));
         QCOMPARE(outcome.result->fields.front()->name.size(), headerSize - 2);
         QCOMPARE(buffer.bytesRead, qint64(mostRead));
+
+        QVERIFY(buffer.seek(0));
+        const Outcome<CsvHeader> chosen = CsvHeader::read(buffer, QLatin1Char(','));
+        QVERIFY(chosen.result.has_value());
+        QCOMPARE(chosen.result->fields.size(), std::size_t(2));
+        QCOMPARE(buffer.bytesRead, qint64(2 * mostRead));
+    }
+
+    void theEndOfABlockDecidesNothing()
+    {
+        // For all that the first block tells, the quotation mark belongs to a field behind a bar.
+        const QByteArray start("a,b|\"c\n");
+        QCOMPARE(textOf(headerOf(start + QByteArray(100, 'x') + "\";;;\n")), QString("[a,b|\"c] UTF-8 ;"));
+        QCOMPARE(
+            textOf(headerOf(start + QByteArray(100'000, 'x') + "\";;;\n")), QString("[a,b|\"c] UTF-8 ;"));
     }
 
     void aHeaderWithoutEndIsGivenUp_data()

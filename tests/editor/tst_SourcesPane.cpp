@@ -31,17 +31,18 @@ QString tabOf(const SourcesPane &pane)
     return tabs->tabText(tabs->currentIndex());
 }
 
-/// Drops \a urls on \a target; returns whether they were taken.
+/// Drops \a urls on \a target with Shift pressed, which asks for moving; returns whether they were taken as
+/// copies.
 bool drop(QWidget &target, const QList<QUrl> &urls, Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction)
 {
     QMimeData data;
     data.setUrls(urls);
-    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     enter.ignore();
     QApplication::sendEvent(&target, &enter);
-    if (!enter.isAccepted())
+    if (!enter.isAccepted() || enter.dropAction() != Qt::CopyAction)
         return false;
-    QDropEvent event(QPointF(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent event(QPointF(5, 5), actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     event.ignore();
     QApplication::sendEvent(&target, &event);
     return event.isAccepted() && event.dropAction() == Qt::CopyAction;

@@ -1,0 +1,368 @@
+#include "business/models/CsvPropertiesModel.h"
+#include "editor/AutoSave.h"
+#include "editor/DictionaryDocument.h"
+#include "editor/FileHandling.h"
+#include "editor/MainWindow.h"
+#include "editor/views/TableView.h"
+#include "model/TDmSourceField.h"
+#include "tests/editor/EditorFixtures.h"
+#include "tests/support/PointerRobot.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+
+using namespace tessel::editor;
+using namespace tessel::test;
+
+namespace {
+
+/// Someone at the display. What is done arrives with the next events; tests wait for what comes of it.
+class Hand {
+public:
+    static void click(const QWidget &widget, const QPoint &place)
+    {
+        const QPoint point = widget.mapToGlobal(place);
+        run({"mousemove", QString::number(point.x()), QString::number(point.y()), "click", "1"});
+    }
+    static void click(const QWidget &widget) { click(widget, widget.rect().center()); }
+    static void click(const QAbstractItemView &view, const QModelIndex &index)
+    {
+        click(*view.viewport(), view.visualRect(index).center());
+    }
+    static void press(const QString &key) { run({"key", "--clearmodifiers", key}); }
+    static void type(const QString &text) { run({"type", "--delay", "2", text}); }
+
+private:
+    static void run(const QStringList &arguments)
+    {
+        QProcess tool;
+        tool.start("xdotool", arguments);
+        while (tool.state() != QProcess::NotRunning)
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+        if (tool.exitCode() != 0)
+            qFatal("xdotool %s", qPrintable(arguments.join(' ')));
+    }
+};
+
+/// Answers the next box as soon as it is there to be typed into: it has an event loop of its own.
+class Answer : public QObject {
+public:
+    explicit Answer(std::function<void(QDialog &)> whatToDo)
+        : act(std::move(whatToDo))
+    {
+        qApp->installEventFilter(this);
+    }
+    ~Answer() override { qApp->removeEventFilter(this); }
+    bool isGiven() const { return given; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *dialog = qobject_cast<QDialog *>(watched);
+        if (dialog && event->type() == QEvent::WindowActivate && !given) {
+            given = true;
+            QTimer::singleShot(0, dialog, [this, dialog] { act(*dialog); });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void(QDialog &)> act;
+    bool given = false;
+
+    Q_DISABLE_COPY_MOVE(Answer)
+};
+
+/// Clicks \a button of the box.
+std::function<void(QDialog &)> pressing(QMessageBox::StandardButton button)
+{
+    return [button](QDialog &box) { Hand::click(*qobject_cast<QMessageBox *>(&box)->button(button)); };
+}
+
+template<typename Widget = QWidget>
+Widget &part(MainWindow &window, const char *name)
+{
+    auto *widget = window.findChild<Widget *>(name);
+    if (!widget)
+        qFatal("no %s", name);
+    return *widget;
+}
+
+QByteArray contentOf(const QString &file)
+{
+    QFile opened(file);
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("cannot be read");
+}
+
+QPalette darkPalette()
+{
+    QPalette dark(QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    dark.setColor(QPalette::AlternateBase, QColor(0x2d, 0x2d, 0x2d));
+    dark.setColor(QPalette::ToolTipBase, QColor(0x50, 0x50, 0x50));
+    dark.setColor(QPalette::ToolTipText, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, QColor(0x90, 0x90, 0x90));
+    dark.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    return dark;
+}
+
+/// How well \a colour is read on \a ground, from 1 to 21.
+double contrast(const QColor &colour, const QColor &ground)
+{
+    const auto light = [](const QColor &shade) {
+        const auto part = [](double value) {
+            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(shade.redF()) + 0.7152 * part(shade.greenF()) + 0.0722 * part(shade.blueF());
+    };
+    const double one = light(colour) + 0.05;
+    const double other = light(ground) + 0.05;
+    return qMax(one, other) / qMin(one, other);
+}
+
+const QString kPerson = "/entities/0/entities/0/entities/0/entities/0/entities/0/entities/0/entities/0";
+
+} // namespace
+
+class tst_MainWindowOnScreen : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QLoggingCategory::setFilterRules("default.debug=false");
+        QStandardPaths::setTestModeEnabled(true);
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QApplication::setStyle("fusion");
+        QApplication::setOrganizationName("Tessel");
+        QApplication::setApplicationName("tst_MainWindowOnScreen");
+        QVERIFY(folder.isValid());
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    }
+
+    void init()
+    {
+        QSettings().clear();
+        AutoSave::removeCopy(QString());
+    }
+
+    void aDayAtTheDisplay()
+    {
+        MainWindow window;
+        window.resize(1000, 720);
+        bringUp(window);
+        auto &variables = part<TableView>(window, "variables");
+        auto &entities = part<QTreeView>(window, "entities");
+        const auto names = [&] {
+            QStringList list;
+            for (const QString &row : rowsOf(variables))
+                list += row.section('|', 0, 0);
+            return list;
+        };
+
+        // The sample is opened, and an entity and a variable chosen.
+        Hand::click(part<QPushButton>(window, "startSample"));
+        QTRY_VERIFY(variables.isVisible());
+        const QByteArray before = textOf(window.document());
+        Hand::click(entities, entities.indexBelow(entities.indexBelow(entities.currentIndex())));
+        QTRY_COMPARE(entities.currentIndex().data().toString(), QString("PROVINCE"));
+        QTRY_COMPARE(names().first(), QString("PROV_CODE"));
+        Hand::click(variables, variables.model()->index(2, 0));
+        QTRY_COMPARE(currentIn(variables), QString("PROV_STAT"));
+        QCOMPARE(part<TableView>(window, "labels").model()->rowCount(), 3);
+
+        // It is renamed, taken back by key and by menu.
+        Hand::press("F2");
+        QTRY_VERIFY(isTyping(variables));
+        Hand::press("ctrl+a");
+        Hand::type("STATUS");
+        Hand::press("Return");
+        QTRY_COMPARE(names().at(2), QString("STATUS"));
+        auto *undo = window.findChild<QAction *>("undo");
+        QTRY_COMPARE(undo->text(), QString("&Undo rename PROV_STAT"));
+        Hand::press("ctrl+z");
+        QTRY_COMPARE(names().at(2), QString("PROV_STAT"));
+        Hand::press("ctrl+shift+z");
+        QTRY_COMPARE(names().at(2), QString("STATUS"));
+        QMenuBar &bar = *window.menuBar();
+        Hand::click(bar, bar.actionGeometry(bar.actions().at(1)).center());
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        Hand::click(*menu, menu->actionGeometry(undo).center());
+        QTRY_COMPARE(names().at(2), QString("PROV_STAT"));
+        QCOMPARE(textOf(window.document()), before);
+        QVERIFY(!window.isWindowModified());
+
+        // Something is looked for.
+        Hand::press("ctrl+f");
+        Hand::type("name");
+        QTRY_COMPARE(names(), QStringList({"PROV_CODE", "PROV_NAME"}).mid(1));
+        Hand::press("Escape");
+        QTRY_COMPARE(names().size(), 5);
+
+        // What stands in the open cell is saved.
+        Hand::click(variables, variables.model()->index(4, 2));
+        QTRY_COMPARE(currentIn(variables), QString("PROV_CAPITAL"));
+        Hand::press("F2");
+        QTRY_VERIFY(isTyping(variables));
+        Hand::press("ctrl+a");
+        Hand::type("Seat of the prefect");
+        const QString file = folder.filePath("saved.json");
+        {
+            const Answer name([file](QDialog &) {
+                Hand::press("ctrl+a");
+                Hand::type(file);
+                Hand::press("Return");
+            });
+            Hand::press("ctrl+s");
+            QTRY_VERIFY(name.isGiven());
+        }
+        QTRY_COMPARE(window.document().fileName(), file);
+        QVERIFY(contentOf(file).contains("Seat of the prefect"));
+        QTRY_VERIFY(!window.isWindowModified());
+        QCOMPARE(window.windowTitle(), QString("saved.json[*] — Tessel"));
+
+        // A row is moved, and the window asks before it closes.
+        // No window manager gives the focus back here.
+        bringUp(window);
+        Hand::click(variables, variables.model()->index(4, 0));
+        Hand::press("alt+Up");
+        QTRY_COMPARE(names().at(3), QString("PROV_CAPITAL"));
+        {
+            const Answer cancels(pressing(QMessageBox::Cancel));
+            Hand::press("ctrl+q");
+            QTRY_VERIFY(cancels.isGiven());
+        }
+        QVERIFY(window.isVisible());
+        bringUp(window);
+        const Answer discards(pressing(QMessageBox::Discard));
+        Hand::press("ctrl+q");
+        QTRY_VERIFY(discards.isGiven());
+        QTRY_VERIFY(!window.isVisible());
+        QVERIFY(contentOf(file).indexOf("PROV_CAPITAL") > contentOf(file).indexOf("PROV_AREA"));
+    }
+
+    void aFieldIsDraggedOntoTheTable()
+    {
+        MainWindow window;
+        window.resize(1000, 720);
+        load(window.document());
+        bringUp(window);
+        window.goTo("/entities/0/entities/0/variables/0");
+        auto &variables = part<TableView>(window, "variables");
+        TDmSourceField weight;
+        weight.name = "WEIGHT";
+        TDmSourceField height;
+        height.name = "HEIGHT";
+        QList<TDmSourceField *> fields{&weight, &height};
+        CsvPropertiesModel catalogue(nullptr, &fields);
+        QListView view;
+        view.setModel(&catalogue);
+        view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view.setDragDropMode(QAbstractItemView::DragOnly);
+        view.setGeometry(40, 560, 200, 120);
+        view.setParent(&window);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        PointerRobot robot;
+        QVERIFY(robot.drag(
+            {&view, view.visualRect(catalogue.index(1, 0)).center()}, {&variables, QPoint(80, 60)}));
+        QCOMPARE(rowsOf(variables).last().section('|', 0, 0), QString("HEIGHT"));
+        QCOMPARE(variables.model()->rowCount(), 4);
+        QCOMPARE(currentIn(variables), QString("HEIGHT"));
+        QCOMPARE(window.document().undoStack()->undoText(), QString("add fields to PERSON"));
+        Hand::press("ctrl+z");
+        QTRY_COMPARE(variables.model()->rowCount(), 3);
+        // The drag is over: a click and a key are what they were.
+        QVERIFY(robot.click({&variables, variables.visualRect(variables.model()->index(1, 0)).center()}));
+        QCOMPARE(selectedIn(variables), QString("AGE"));
+    }
+
+    void itIsReadInLightAndInDark_data()
+    {
+        QTest::addColumn<bool>("isDark");
+        QTest::newRow("light") << false;
+        QTest::newRow("dark") << true;
+    }
+    void itIsReadInLightAndInDark()
+    {
+        QFETCH(bool, isDark);
+        const QPalette usual = QApplication::palette();
+        if (isDark)
+            QApplication::setPalette(darkPalette());
+        {
+            MainWindow window;
+            window.resize(1000, 720);
+            bringUp(window);
+            const auto picture = [&](const QString &name) {
+                const QString place = qEnvironmentVariable("TESSEL_SCREENSHOTS");
+                if (!place.isEmpty()) {
+                    QVERIFY(window.grab().save(
+                        QString("%1/%2-%3.png").arg(place, isDark ? "dark" : "light", name)));
+                }
+            };
+            picture("start");
+            window.findChild<QAction *>("sample")->trigger();
+            window.goTo(kPerson + "/variables/4");
+            auto &details = part<QTabWidget>(window, "details");
+            const char *const pages[] = {"labels", "ranges", "properties", "entity"};
+            for (int page = 0; page < 4; ++page) {
+                details.setCurrentIndex(page);
+                QCoreApplication::processEvents();
+                picture(pages[page]);
+            }
+            load(window.document(), R"({"entities": [{"name": "A", "codeVar": "NONE", "variables": []}]})");
+            window.findChild<QAction *>("check")->trigger();
+            auto &variables = part<TableView>(window, "variables");
+            auto *search = variables.parentWidget()->findChild<QLineEdit *>("search");
+            variables.parentWidget()->findChild<QToolButton *>("pattern")->click();
+            QTest::keyClicks(search, "(");
+            QVERIFY(!window.files().openFile("/no/such/file.json"));
+            QCoreApplication::processEvents();
+            picture("faults");
+            const QPalette colours = variables.palette();
+            const QColor base = colours.color(QPalette::Base);
+            QCOMPARE(base.lightness() < 128, isDark);
+            QVERIFY(contrast(colours.color(QPalette::Text), base) > 7);
+            // A bad pattern is red, and read all the same.
+            const QColor red = search->palette().color(QPalette::Text);
+            QVERIFY(red.red() > 2 * red.green());
+            QVERIFY2(contrast(red, base) > 3, qPrintable(QString::number(contrast(red, base))));
+            const auto *notice = &part<QLabel>(window, "notice");
+            QVERIFY(notice->isVisible());
+            QVERIFY(contrast(notice->palette().color(notice->foregroundRole()),
+                        notice->parentWidget()->palette().color(notice->parentWidget()->backgroundRole()))
+                > 7);
+        }
+        QApplication::setPalette(usual);
+    }
+
+private:
+    QTemporaryDir folder;
+};
+
+QTEST_MAIN(tst_MainWindowOnScreen)
+#include "tst_MainWindowOnScreen.moc"
