@@ -45,7 +45,7 @@ bool VarRangeModel::isInteger() const
 QVariant VarRangeModel::getItemData(Range *range, int column) const
 {
     const QVariant bound = EditableListModel::getItemData(range, column);
-    return bound.isValid() && isInteger() ? QVariant(nearestInt(bound.toDouble())) : bound;
+    return bound.isValid() && isInteger() ? QVariant(NearestInt::of(bound.toDouble())) : bound;
 }
 
 void VarRangeModel::write(Range &range, int column, const QVariant &value)

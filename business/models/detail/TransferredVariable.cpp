@@ -102,8 +102,8 @@ void TransferredVariable::giveRange(TDmVariable &variable) const
         variable.setMissing(1);
         return;
     }
-    variable.setNotappl(min > 0.0 ? 0 : nearestInt(max + 2.0));
-    variable.setMissing(nearestInt(max + 1.0));
+    variable.setNotappl(min > 0.0 ? 0 : NearestInt::of(max + 2.0));
+    variable.setMissing(NearestInt::of(max + 1.0));
 }
 
 } // namespace tessel::detail
