@@ -5,11 +5,13 @@
 #include "business/models/VariableExpressionModel.h"
 #include "editor/ExpressionEdit.h"
 #include "editor/ExpressionText.h"
+#include "editor/OperatorBar.h"
 #include "editor/PickList.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
 #include "model/ValueLabelElement.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
@@ -18,7 +20,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextDocument>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -173,41 +174,12 @@ QWidget *ExpressionDialog::makeColumn(
 
 QWidget *ExpressionDialog::makeOperators()
 {
-    struct Operator {
-        QString caption;
-        QString term;
-        QString meaning;
-    };
-    // The words are part of the language of expressions, not of the user's: only their meaning is translated.
-    const Operator operators[] = {
-        {QStringLiteral("="), QStringLiteral("="), tr("Equal to")},
-        {QStringLiteral("<>"), QStringLiteral("<>"), tr("Different from")},
-        {QStringLiteral("<"), QStringLiteral("<"), tr("Less than")},
-        {QStringLiteral("<="), QStringLiteral("<="), tr("Less than or equal to")},
-        {QStringLiteral(">"), QStringLiteral(">"), tr("Greater than")},
-        {QStringLiteral(">="), QStringLiteral(">="), tr("Greater than or equal to")},
-        {QStringLiteral("&and"), QStringLiteral("and"), tr("And: both sides hold")},
-        {QStringLiteral("&or"), QStringLiteral("or"), tr("Or: one side holds at least")},
-        {QStringLiteral("&not"), QStringLiteral("not"), tr("Not: what follows does not hold")},
-        {QStringLiteral("("), QStringLiteral("("), tr("Opening bracket")},
-        {QStringLiteral(")"), QStringLiteral(")"), tr("Closing bracket")},
-    };
-    auto *row = new QWidget(this);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (const Operator &entry : operators) {
-        auto *button = new QToolButton(row);
-        button->setText(entry.caption);
-        button->setObjectName(QStringLiteral("operator %1").arg(entry.term));
-        button->setAccessibleName(entry.meaning);
-        button->setToolTip(entry.meaning);
-        button->setMinimumWidth(36);
-        connect(button, &QToolButton::clicked, edit, [this, term = entry.term] { edit->insertTerm(term); });
-        layout->addWidget(button);
+    auto *bar = new OperatorBar(this);
+    connect(bar, &OperatorBar::picked, edit, &ExpressionEdit::insertTerm);
+    const QList<QAbstractButton *> buttons = bar->buttons();
+    for (QAbstractButton *button : buttons)
         addTabStop(button);
-    }
-    layout->addStretch();
-    return row;
+    return bar;
 }
 
 void ExpressionDialog::makeButtons(QBoxLayout &layout)

@@ -16,14 +16,18 @@ PickList::PickList(std::function<QString(const QModelIndex &)> termOf, QWidget *
     : QListView(parent)
     , writeTerm(std::move(termOf))
 {
-    setUniformItemSizes(true);
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setEditTriggers(NoEditTriggers);
     connect(this, &QListView::doubleClicked, this, &PickList::pick);
 }
 
-PickList::~PickList() { setModel(nullptr); }
+PickList::~PickList()
+{
+    // Losing the current row is no news for a dialog that is half gone already.
+    blockSignals(true);
+    setModel(nullptr);
+}
 
 void PickList::showRows(std::unique_ptr<QAbstractItemModel> rows, int row, const QString &hintText)
 {

@@ -27,12 +27,12 @@ QWidget *RecordingDelegate::createEditor(
         return QStyledItemDelegate::createEditor(parent, option, index);
     auto *field = new QLineEdit(parent);
     field->setFrame(false);
-    // The models read numbers with a point.
     QValidator *validator = nullptr;
     if (type == QMetaType::Int)
         validator = new QIntValidator(field);
     else
         validator = new QDoubleValidator(field);
+    // The models read numbers with a point.
     QLocale plain = QLocale::c();
     plain.setNumberOptions(QLocale::RejectGroupSeparator);
     validator->setLocale(plain);

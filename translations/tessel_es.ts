@@ -949,50 +949,6 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>Inserta %1 en la posición del cursor.</translation>
     </message>
     <message>
-        <source>Equal to</source>
-        <translation>Igual a</translation>
-    </message>
-    <message>
-        <source>Different from</source>
-        <translation>Distinto de</translation>
-    </message>
-    <message>
-        <source>Less than</source>
-        <translation>Menor que</translation>
-    </message>
-    <message>
-        <source>Less than or equal to</source>
-        <translation>Menor o igual que</translation>
-    </message>
-    <message>
-        <source>Greater than</source>
-        <translation>Mayor que</translation>
-    </message>
-    <message>
-        <source>Greater than or equal to</source>
-        <translation>Mayor o igual que</translation>
-    </message>
-    <message>
-        <source>And: both sides hold</source>
-        <translation>Y: se cumplen ambos lados</translation>
-    </message>
-    <message>
-        <source>Or: one side holds at least</source>
-        <translation>O: se cumple al menos un lado</translation>
-    </message>
-    <message>
-        <source>Not: what follows does not hold</source>
-        <translation>No: no se cumple lo que sigue</translation>
-    </message>
-    <message>
-        <source>Opening bracket</source>
-        <translation>Paréntesis de apertura</translation>
-    </message>
-    <message>
-        <source>Closing bracket</source>
-        <translation>Paréntesis de cierre</translation>
-    </message>
-    <message>
         <source>Copy to clipboard</source>
         <translation>Copiar al portapapeles</translation>
     </message>
@@ -1598,6 +1554,53 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
 </context>
 <context>
+    <name>tessel::editor::OperatorBar</name>
+    <message>
+        <source>Equal to</source>
+        <translation>Igual a</translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation>Distinto de</translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation>Menor que</translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation>Menor o igual que</translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation>Mayor que</translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation>Mayor o igual que</translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation>Y: se cumplen ambos lados</translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation>O: se cumple al menos un lado</translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation>No: no se cumple lo que sigue</translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation>Paréntesis de apertura</translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation>Paréntesis de cierre</translation>
+    </message>
+</context>
+<context>
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
@@ -1783,10 +1786,6 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>Filas mostradas</translation>
     </message>
     <message>
-        <source>This is no pattern: %1.</source>
-        <translation>Esto no es un patrón: %1.</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
@@ -1794,16 +1793,16 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
 <context>
     <name>tessel::editor::SearchLine</name>
     <message>
-        <source>Search name, label, alias, group…</source>
-        <translation>Buscar nombre, etiqueta, alias, grupo…</translation>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation>Parte de un texto o una expresión regular como ^P0[1-9]; no se distinguen mayúsculas y minúsculas.</translation>
     </message>
     <message>
-        <source>A text or a regular expression; letter case does not count.</source>
-        <translation>Un texto o una expresión regular; no se distinguen mayúsculas y minúsculas.</translation>
+        <source>Part of a text; letter case does not count.</source>
+        <translation>Parte de un texto; no se distingue entre mayúsculas y minúsculas.</translation>
     </message>
     <message>
-        <source>This is no valid regular expression: %1.</source>
-        <translation>Esta no es una expresión regular válida: %1.</translation>
+        <source>This is no pattern: %1.</source>
+        <translation>Esto no es un patrón: %1.</translation>
     </message>
 </context>
 <context>
@@ -1831,21 +1830,6 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>tessel::editor::SourceFilter</name>
-    <message>
-        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation>Parte de un texto o una expresión regular como ^P0[1-9]; no se distinguen mayúsculas y minúsculas.</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation>Este patrón no está completo (%1); se usa el último patrón completo.</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +1865,10 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>No row matches the filter.</source>
         <translation>Ninguna fila coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
     </message>
 </context>
 <context>
@@ -2271,6 +2259,10 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>%1, not a valid pattern</source>
         <translation>%1, patrón no válido</translation>
+    </message>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation>Buscar nombre, etiqueta, alias, grupo…</translation>
     </message>
 </context>
 <context>

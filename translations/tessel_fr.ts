@@ -949,50 +949,6 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>Insère %1 à la position du curseur.</translation>
     </message>
     <message>
-        <source>Equal to</source>
-        <translation>Égal à</translation>
-    </message>
-    <message>
-        <source>Different from</source>
-        <translation>Différent de</translation>
-    </message>
-    <message>
-        <source>Less than</source>
-        <translation>Inférieur à</translation>
-    </message>
-    <message>
-        <source>Less than or equal to</source>
-        <translation>Inférieur ou égal à</translation>
-    </message>
-    <message>
-        <source>Greater than</source>
-        <translation>Supérieur à</translation>
-    </message>
-    <message>
-        <source>Greater than or equal to</source>
-        <translation>Supérieur ou égal à</translation>
-    </message>
-    <message>
-        <source>And: both sides hold</source>
-        <translation>Et&#xa0;: les deux côtés sont vrais</translation>
-    </message>
-    <message>
-        <source>Or: one side holds at least</source>
-        <translation>Ou&#xa0;: un côté au moins est vrai</translation>
-    </message>
-    <message>
-        <source>Not: what follows does not hold</source>
-        <translation>Non&#xa0;: ce qui suit n&apos;est pas vrai</translation>
-    </message>
-    <message>
-        <source>Opening bracket</source>
-        <translation>Parenthèse ouvrante</translation>
-    </message>
-    <message>
-        <source>Closing bracket</source>
-        <translation>Parenthèse fermante</translation>
-    </message>
-    <message>
         <source>Copy to clipboard</source>
         <translation>Copier dans le presse-papiers</translation>
     </message>
@@ -1598,6 +1554,53 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
 </context>
 <context>
+    <name>tessel::editor::OperatorBar</name>
+    <message>
+        <source>Equal to</source>
+        <translation>Égal à</translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation>Différent de</translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation>Inférieur à</translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation>Inférieur ou égal à</translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation>Supérieur à</translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation>Supérieur ou égal à</translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation>Et&#xa0;: les deux côtés sont vrais</translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation>Ou&#xa0;: un côté au moins est vrai</translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation>Non&#xa0;: ce qui suit n&apos;est pas vrai</translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation>Parenthèse ouvrante</translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation>Parenthèse fermante</translation>
+    </message>
+</context>
+<context>
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
@@ -1783,10 +1786,6 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>Lignes affichées</translation>
     </message>
     <message>
-        <source>This is no pattern: %1.</source>
-        <translation>Ce n&apos;est pas un motif&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
@@ -1794,16 +1793,16 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
 <context>
     <name>tessel::editor::SearchLine</name>
     <message>
-        <source>Search name, label, alias, group…</source>
-        <translation>Rechercher nom, libellé, alias, groupe…</translation>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation>Une partie d&apos;un texte ou une expression régulière telle que ^P0[1-9]&#xa0;; la casse n&apos;est pas prise en compte.</translation>
     </message>
     <message>
-        <source>A text or a regular expression; letter case does not count.</source>
-        <translation>Un texte ou une expression régulière&#xa0;; la casse n&apos;est pas prise en compte.</translation>
+        <source>Part of a text; letter case does not count.</source>
+        <translation>Une partie d’un texte&#xa0;; la casse ne compte pas.</translation>
     </message>
     <message>
-        <source>This is no valid regular expression: %1.</source>
-        <translation>Ce n&apos;est pas une expression régulière valide&#xa0;: %1.</translation>
+        <source>This is no pattern: %1.</source>
+        <translation>Ce n&apos;est pas un motif&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1831,21 +1830,6 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
-    </message>
-</context>
-<context>
-    <name>tessel::editor::SourceFilter</name>
-    <message>
-        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation>Une partie d&apos;un texte ou une expression régulière telle que ^P0[1-9]&#xa0;; la casse n&apos;est pas prise en compte.</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrer</translation>
-    </message>
-    <message>
-        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation>Ce motif n&apos;est pas complet (%1)&#xa0;; le dernier motif complet reste utilisé.</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +1865,10 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>No row matches the filter.</source>
         <translation>Aucune ligne ne correspond au filtre.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
     </message>
 </context>
 <context>
@@ -2271,6 +2259,10 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>%1, not a valid pattern</source>
         <translation>%1, motif non valide</translation>
+    </message>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation>Rechercher nom, libellé, alias, groupe…</translation>
     </message>
 </context>
 <context>

@@ -949,50 +949,6 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>Insere %1 na posição do cursor.</translation>
     </message>
     <message>
-        <source>Equal to</source>
-        <translation>Igual a</translation>
-    </message>
-    <message>
-        <source>Different from</source>
-        <translation>Diferente de</translation>
-    </message>
-    <message>
-        <source>Less than</source>
-        <translation>Menor que</translation>
-    </message>
-    <message>
-        <source>Less than or equal to</source>
-        <translation>Menor ou igual a</translation>
-    </message>
-    <message>
-        <source>Greater than</source>
-        <translation>Maior que</translation>
-    </message>
-    <message>
-        <source>Greater than or equal to</source>
-        <translation>Maior ou igual a</translation>
-    </message>
-    <message>
-        <source>And: both sides hold</source>
-        <translation>E: os dois lados são verdadeiros</translation>
-    </message>
-    <message>
-        <source>Or: one side holds at least</source>
-        <translation>Ou: pelo menos um lado é verdadeiro</translation>
-    </message>
-    <message>
-        <source>Not: what follows does not hold</source>
-        <translation>Não: o que segue não é verdadeiro</translation>
-    </message>
-    <message>
-        <source>Opening bracket</source>
-        <translation>Abre parêntese</translation>
-    </message>
-    <message>
-        <source>Closing bracket</source>
-        <translation>Fecha parêntese</translation>
-    </message>
-    <message>
         <source>Copy to clipboard</source>
         <translation>Copiar para a área de transferência</translation>
     </message>
@@ -1598,6 +1554,53 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
 </context>
 <context>
+    <name>tessel::editor::OperatorBar</name>
+    <message>
+        <source>Equal to</source>
+        <translation>Igual a</translation>
+    </message>
+    <message>
+        <source>Different from</source>
+        <translation>Diferente de</translation>
+    </message>
+    <message>
+        <source>Less than</source>
+        <translation>Menor que</translation>
+    </message>
+    <message>
+        <source>Less than or equal to</source>
+        <translation>Menor ou igual a</translation>
+    </message>
+    <message>
+        <source>Greater than</source>
+        <translation>Maior que</translation>
+    </message>
+    <message>
+        <source>Greater than or equal to</source>
+        <translation>Maior ou igual a</translation>
+    </message>
+    <message>
+        <source>And: both sides hold</source>
+        <translation>E: os dois lados são verdadeiros</translation>
+    </message>
+    <message>
+        <source>Or: one side holds at least</source>
+        <translation>Ou: pelo menos um lado é verdadeiro</translation>
+    </message>
+    <message>
+        <source>Not: what follows does not hold</source>
+        <translation>Não: o que segue não é verdadeiro</translation>
+    </message>
+    <message>
+        <source>Opening bracket</source>
+        <translation>Abre parêntese</translation>
+    </message>
+    <message>
+        <source>Closing bracket</source>
+        <translation>Fecha parêntese</translation>
+    </message>
+</context>
+<context>
     <name>tessel::editor::OptionsPage</name>
     <message>
         <source>Create not-applicable and &amp;missing codes inside the ranges</source>
@@ -1783,10 +1786,6 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>Linhas exibidas</translation>
     </message>
     <message>
-        <source>This is no pattern: %1.</source>
-        <translation>Isto não é um padrão: %1.</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
@@ -1794,16 +1793,16 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
 <context>
     <name>tessel::editor::SearchLine</name>
     <message>
-        <source>Search name, label, alias, group…</source>
-        <translation>Pesquisar nome, rótulo, alias, grupo…</translation>
+        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
+        <translation>Parte de um texto ou uma expressão regular como ^P0[1-9]; não há distinção entre maiúsculas e minúsculas.</translation>
     </message>
     <message>
-        <source>A text or a regular expression; letter case does not count.</source>
-        <translation>Um texto ou uma expressão regular; não há distinção entre maiúsculas e minúsculas.</translation>
+        <source>Part of a text; letter case does not count.</source>
+        <translation>Parte de um texto; não há distinção entre maiúsculas e minúsculas.</translation>
     </message>
     <message>
-        <source>This is no valid regular expression: %1.</source>
-        <translation>Esta não é uma expressão regular válida: %1.</translation>
+        <source>This is no pattern: %1.</source>
+        <translation>Isto não é um padrão: %1.</translation>
     </message>
 </context>
 <context>
@@ -1831,21 +1830,6 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>tessel::editor::SourceFilter</name>
-    <message>
-        <source>Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count.</source>
-        <translation>Parte de um texto ou uma expressão regular como ^P0[1-9]; não há distinção entre maiúsculas e minúsculas.</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>This is not a complete pattern (%1); the last complete one is in use.</source>
-        <translation>Este padrão não está completo (%1); está em uso o último padrão completo.</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +1865,10 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>No row matches the filter.</source>
         <translation>Nenhuma linha corresponde ao filtro.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
     </message>
 </context>
 <context>
@@ -2271,6 +2259,10 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>%1, not a valid pattern</source>
         <translation>%1, padrão inválido</translation>
+    </message>
+    <message>
+        <source>Search name, label, alias, group…</source>
+        <translation>Pesquisar nome, rótulo, alias, grupo…</translation>
     </message>
 </context>
 <context>

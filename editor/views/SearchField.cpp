@@ -1,9 +1,10 @@
 #include "editor/views/SearchField.h"
 
+#include "editor/views/SearchLine.h"
+
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QToolButton>
 
@@ -12,14 +13,14 @@ namespace tessel::editor {
 SearchField::SearchField(QSortFilterProxyModel &filteredProxy, const QString &purpose, QWidget *parent)
     : QWidget(parent)
     , proxy(filteredProxy)
-    , field(new QLineEdit(this))
+    , field(new SearchLine(this))
     , patternSwitch(new QAction(QStringLiteral(".*"), this))
     , counter(new QLabel(this))
 {
     field->setObjectName(QStringLiteral("search"));
     field->setAccessibleName(purpose);
     field->setPlaceholderText(purpose);
-    field->setClearButtonEnabled(true);
+    field->setReads(SearchLine::Reads::PlainText);
     setFocusProxy(field);
 
     auto *button = new QToolButton(this);
@@ -38,8 +39,13 @@ SearchField::SearchField(QSortFilterProxyModel &filteredProxy, const QString &pu
     layout->addWidget(button);
     layout->addWidget(counter);
 
-    connect(field, &QLineEdit::textChanged, this, &SearchField::apply);
-    connect(patternSwitch, &QAction::toggled, this, &SearchField::apply);
+    connect(patternSwitch, &QAction::toggled, this, [this](bool on) {
+        field->setReads(on ? SearchLine::Reads::Patterns : SearchLine::Reads::PlainText);
+    });
+    connect(field, &SearchLine::patternChanged, this, [this](const QRegExp &pattern) {
+        proxy.setFilterRegExp(pattern);
+        count();
+    });
     connect(&proxy, &QAbstractItemModel::modelReset, this, &SearchField::count);
     connect(&proxy, &QAbstractItemModel::rowsInserted, this, &SearchField::count);
     connect(&proxy, &QAbstractItemModel::rowsRemoved, this, &SearchField::count);
@@ -57,21 +63,7 @@ void SearchField::activate()
 
 void SearchField::clear() { field->clear(); }
 
-void SearchField::apply()
-{
-    // The proxies look at upper-case texts.
-    const QRegExp pattern = patternSwitch->isChecked()
-        ? QRegExp(field->text(), Qt::CaseInsensitive, QRegExp::RegExp2)
-        : QRegExp(field->text().toUpper(), Qt::CaseInsensitive, QRegExp::FixedString);
-    isValid = pattern.isValid();
-    QPalette colours;
-    if (!isValid)
-        colours.setColor(QPalette::Text, QColor(0xd0, 0x30, 0x30));
-    field->setPalette(colours);
-    field->setToolTip(isValid ? QString() : tr("This is no pattern: %1.").arg(pattern.errorString()));
-    proxy.setFilterRegExp(pattern);
-    count();
-}
+bool SearchField::isPatternValid() const { return !field->isBad(); }
 
 void SearchField::count()
 {

@@ -4,10 +4,11 @@
 
 class QAction;
 class QLabel;
-class QLineEdit;
 class QSortFilterProxyModel;
 
 namespace tessel::editor {
+
+class SearchLine;
 
 /// A search field over a proxy: plain text, or a pattern when its switch is on; letter case does not matter.
 /// Shows how many rows are left of how many, and a bad pattern in red. Borrows the proxy.
@@ -20,7 +21,7 @@ public:
 
     QString text() const;
     QString countText() const;
-    bool isPatternValid() const { return isValid; }
+    bool isPatternValid() const;
 
 public slots:
     /// Puts the cursor into the field.
@@ -28,14 +29,12 @@ public slots:
     void clear();
 
 private:
-    void apply();
     void count();
 
     QSortFilterProxyModel &proxy;
-    QLineEdit *field;
+    SearchLine *field;
     QAction *patternSwitch;
     QLabel *counter;
-    bool isValid = true;
 };
 
 } // namespace tessel::editor

@@ -1,6 +1,6 @@
 #include "editor/views/SourceTab.h"
 
-#include "editor/views/SourceFilter.h"
+#include "editor/views/SearchLine.h"
 #include "editor/views/SourceLine.h"
 #include "editor/views/SourceTable.h"
 
@@ -20,7 +20,7 @@ SourceTab::SourceTab(
     , proxy(proxyModel)
     , tools(new QHBoxLayout)
     , line(new SourceLine(this))
-    , filter(new SourceFilter(this))
+    , filter(new SearchLine(this))
     , count(new QLabel(this))
     , addButton(new QPushButton(tr("&Add to table"), this))
     , table(new SourceTable(this))
@@ -31,6 +31,7 @@ SourceTab::SourceTab(
     addButton->setToolTip(
         tr("Makes variables of the selected rows; Return, a double click and dragging do so too."));
     filter->setMaximumWidth(220);
+    filter->setPlaceholderText(tr("Filter"));
 
     const QVector<QPair<QWidget *, QPair<const char *, QString>>> named{
         {open, {"Open", tr("Open a file for: %1").arg(words.name)}},
@@ -63,8 +64,8 @@ SourceTab::SourceTab(
     connect(open, &QPushButton::clicked, this, &SourceTab::openRequested);
     connect(addButton, &QPushButton::clicked, this, &SourceTab::add);
     connect(table, &SourceTable::rowsChosen, this, &SourceTab::add);
-    connect(filter, &SourceFilter::left, table, [this] { table->setFocus(Qt::OtherFocusReason); });
-    connect(filter, &SourceFilter::patternChanged, this, [this](const QRegExp &pattern) {
+    connect(filter, &SearchLine::left, table, [this] { table->setFocus(Qt::OtherFocusReason); });
+    connect(filter, &SearchLine::patternChanged, this, [this](const QRegExp &pattern) {
         proxy->setFilterRegExp(pattern);
         showState();
     });

@@ -17,7 +17,7 @@ class QSortFilterProxyModel;
 
 namespace tessel::editor {
 
-class SourceFilter;
+class SearchLine;
 class SourceLine;
 class SourceTable;
 
@@ -89,7 +89,7 @@ private:
     std::unique_ptr<QAbstractItemModel> catalogue;
     QBoxLayout *tools;
     SourceLine *line;
-    SourceFilter *filter;
+    SearchLine *filter;
     QLabel *count;
     QPushButton *addButton;
     SourceTable *table;

@@ -4,7 +4,7 @@
 #include "business/models/VariablesProxyModel.h"
 #include "editor/wizard/ChoiceTree.h"
 #include "editor/wizard/RunPlan.h"
-#include "editor/wizard/SearchLine.h"
+#include "editor/views/SearchLine.h"
 #include "editor/wizard/WizardText.h"
 #include "model/TDmEntity.h"
 
@@ -74,6 +74,7 @@ void VariablesPage::layOut()
     allBox->setObjectName(QStringLiteral("allVariables"));
     allBox->setAccessibleName(tr("All variables of this entity"));
     allBox->setToolTip(tr("Takes every variable, also those that the dictionary gets later."));
+    search->setPlaceholderText(tr("Search name, label, alias, group…"));
     search->setObjectName(QStringLiteral("variableSearch"));
     search->setAccessibleName(tr("Search variables"));
     shownLabel->setWordWrap(false);

@@ -177,6 +177,11 @@ private slots:
         QCOMPARE(tree.document.undoStack()->undoText(), QString("delete PLOT"));
         tree.document.undoStack()->undo();
         QCOMPARE(treeOf(tree.view()), kAll);
+        // The choice goes to the parent.
+        tree.choose("PERSON");
+        tree.pane.addRow();
+        tree.pane.removeSelected();
+        QCOMPARE(tree.chosen(), QString("PERSON"));
         QVERIFY(robot.boxes().isEmpty());
     }
 

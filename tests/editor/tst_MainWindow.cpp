@@ -508,6 +508,11 @@ private slots:
         window.action("down").trigger();
         Window::press(Qt::Key_F2);
         Window::typeOver("YEARS");
+        QMenuBar &bar = *window.main.menuBar();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(bar.actions().at(1)).center());
+        QCOMPARE(window.action("undo").text(), QString("&Undo rename AGE"));
+        QVERIFY(QApplication::activePopupWidget());
+        QApplication::activePopupWidget()->close();
         window.choose("undo");
         QCOMPARE(window.action("undo").text(), QString("&Undo move AGE"));
         QCOMPARE(window.action("redo").text(), QString("&Redo rename AGE"));
@@ -628,6 +633,20 @@ private slots:
         window.variables().setFocus();
         Window::press(Qt::Key_Escape);
         QCOMPARE(window.variables().model()->rowCount(), 3);
+    }
+
+    void findIsForTheFocusedTable()
+    {
+        Window window;
+        load(window.document());
+        window.goTo("/entities/0/entities/0/variables/0");
+        for (const char *name : {"labels", "variables", "entities"}) {
+            window.part<QWidget>(name).setFocus();
+            Window::press(Qt::Key_F, Qt::ControlModifier);
+            // The tree has no search of its own.
+            auto &table = window.part<QWidget>(name == QByteArray("labels") ? "labels" : "variables");
+            QCOMPARE(Window::focused(), table.parentWidget()->findChild<QWidget *>("search"));
+        }
     }
 
     void panesAreGoneToByNumber()

@@ -62,8 +62,8 @@ private slots:
                                          << "0 of 5";
         QTest::newRow("a point is a point") << "." << false << "FIG.A"
                                             << "1 of 5";
-        QTest::newRow("a blank counts") << "a " << false << ""
-                                        << "0 of 5";
+        QTest::newRow("a blank at the end does not count") << "a " << false << "APPLE PEAR PINEAPPLE FIG.A"
+                                                           << "4 of 5";
         QTest::newRow("a bracket is a bracket") << "(" << false << ""
                                                 << "0 of 5";
         QTest::newRow("a pattern") << "^p.*(r|m)$" << true << "PEAR PLUM"
@@ -109,12 +109,13 @@ private slots:
         QVERIFY(search.field->isPatternValid());
         QTest::mouseClick(search.pattern, Qt::LeftButton);
         QVERIFY(!search.field->isPatternValid());
-        QCOMPARE(search.line->palette().color(QPalette::Text), QColor(0xd0, 0x30, 0x30));
+        QCOMPARE(search.line->palette().color(QPalette::Text), QColor(0xb3, 0, 0));
         QCOMPARE(search.line->toolTip(), QString("This is no pattern: unexpected end."));
         QTest::keyClicks(search.line, "pl)");
         QVERIFY(search.field->isPatternValid());
         QCOMPARE(search.line->palette().color(QPalette::Text), usual);
-        QCOMPARE(search.line->toolTip(), QString());
+        QCOMPARE(search.line->toolTip(),
+            QString("Part of a text, or a regular expression such as ^P0[1-9]; letter case does not count."));
         QCOMPARE(search.shown(), QString("APPLE PLUM PINEAPPLE"));
     }
 
@@ -155,6 +156,10 @@ private slots:
         search.line->setText("plum");
         search.field->activate();
         QCOMPARE(QApplication::focusWidget(), search.line);
+        QCOMPARE(search.line->selectedText(), QString("plum"));
+        // With the cursor in it, too.
+        search.line->deselect();
+        search.field->activate();
         QCOMPARE(search.line->selectedText(), QString("plum"));
         QTest::keyClicks(search.line, "fig");
         QCOMPARE(search.shown(), QString("FIG.A"));

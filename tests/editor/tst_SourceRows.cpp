@@ -2,7 +2,7 @@
 #include "business/models/DatasetPropertiesFieldsModel.h"
 #include "business/models/LookupPropertiesModel.h"
 #include "business/models/VariableDiccionaryModel.h"
-#include "editor/views/SourceFilter.h"
+#include "editor/views/SearchLine.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
 
@@ -151,11 +151,11 @@ private slots:
         QCOMPARE(childOf<QLabel>(pane, "lookupCount")->text(), QString("1 of 2"));
     }
 
-    void aBadPatternIsRedAndTheLastGoodOneStaysInUse()
+    void aBadPatternIsRedAndMatchesNothing()
     {
         SourcesPane pane;
         pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
-        auto *filter = childOf<SourceFilter>(pane, "datasetFilter");
+        auto *filter = childOf<SearchLine>(pane, "datasetFilter");
         const auto *table = childOf<SourceTable>(pane, "datasetTable");
         const auto *count = childOf<QLabel>(pane, "datasetCount");
         const QColor plain = filter->palette().color(QPalette::Text);
@@ -166,11 +166,10 @@ private slots:
         QTest::keyClicks(filter, QStringLiteral("(x"));
         QVERIFY(filter->isBad());
         QCOMPARE(filter->palette().color(QPalette::Text), QColor(0xb3, 0, 0));
-        QCOMPARE(filter->toolTip(),
-            QString("This is not a complete pattern (unexpected end); the last complete one is in use."));
+        QCOMPARE(filter->toolTip(), QString("This is no pattern: unexpected end."));
         QCOMPARE(filter->accessibleDescription(), filter->toolTip());
-        QCOMPARE(count->text(), QString("3 of 4"));
-        QCOMPARE(rowsOf(*table).size(), 3);
+        QCOMPARE(count->text(), QString("0 of 4"));
+        QCOMPARE(rowsOf(*table).size(), 0);
 
         QTest::keyClicks(filter, QStringLiteral("|q)"));
         QVERIFY(!filter->isBad());
@@ -186,7 +185,7 @@ private slots:
         QPalette dark = before;
         dark.setColor(QPalette::Base, Qt::black);
         QApplication::setPalette(dark);
-        SourceFilter filter;
+        SearchLine filter;
         QTest::keyClicks(&filter, QStringLiteral("["));
         const QColor color = filter.palette().color(QPalette::Text);
         QApplication::setPalette(before);

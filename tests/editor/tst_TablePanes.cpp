@@ -86,7 +86,9 @@ bool dropOn(TableView &view, const QMimeData &data)
     QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     move.ignore();
     QCoreApplication::sendEvent(view.viewport(), &move);
-    if (!enter.isAccepted() || !move.isAccepted()) {
+    if (enter.isAccepted() != move.isAccepted())
+        qFatal("one is not like the other");
+    if (!move.isAccepted()) {
         QDragLeaveEvent leave;
         QCoreApplication::sendEvent(view.viewport(), &leave);
         return false;
@@ -828,15 +830,27 @@ private slots:
         QVERIFY(dropOn(*tables.variables.view(), *data));
         QCOMPARE(tables.names(), QString("SEX AGE NOTE WEIGHT"));
         QCOMPARE(tables.stack().count(), 1);
-        // The drag is over: rows are chosen by dragging over them.
+    }
+
+    void afterARefusedDropTheDragIsOver()
+    {
+        Tables tables;
+        activate(tables.variables);
         TableView &view = *tables.variables.view();
-        QTest::mousePress(
-            view.viewport(), Qt::LeftButton, {}, view.visualRect(view.model()->index(0, 0)).center());
-        QMouseEvent move(QEvent::MouseMove, view.visualRect(view.model()->index(2, 0)).center(),
-            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        const auto data = dataOf(payloadOf({lookup("AREA")}));
+        MessageBoxRobot robot({QMessageBox::Ok});
+        {
+            const LeftToNobody allowance;
+            QVERIFY(dropOn(view, *data));
+        }
+        QCOMPARE(robot.unanswered(), 0);
+        // Rows are chosen by dragging over them.
+        const auto middleOf = [&view](
+                                  int row) { return view.visualRect(view.model()->index(row, 0)).center(); };
+        QTest::mousePress(view.viewport(), Qt::LeftButton, {}, middleOf(0));
+        QMouseEvent move(QEvent::MouseMove, middleOf(2), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view.viewport(), &move);
-        QTest::mouseRelease(
-            view.viewport(), Qt::LeftButton, {}, view.visualRect(view.model()->index(2, 0)).center());
+        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, middleOf(2));
         QCOMPARE(selectedIn(view), QString("SEX AGE NOTE"));
     }
 
