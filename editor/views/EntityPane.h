@@ -2,7 +2,6 @@
 
 #include "editor/Touched.h"
 
-#include <QPointer>
 #include <QSet>
 #include <QWidget>
 

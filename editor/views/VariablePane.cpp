@@ -12,6 +12,7 @@
 #include "model/TDmVariable.h"
 
 #include <QHeaderView>
+#include <QSet>
 
 #include <algorithm>
 
@@ -73,8 +74,8 @@ bool VariablePane::concerns(const Touched &touched) const
     if (!shown)
         return false;
     return touched.entities.contains(shown)
-        || std::any_of(touched.variables.cbegin(), touched.variables.cend(),
-            [this](TDmVariable *variable) { return shown->getVariables()->contains(variable); });
+        || std::any_of(shown->getVariables()->cbegin(), shown->getVariables()->cend(),
+            [&touched](TDmVariable *variable) { return touched.variables.contains(variable); });
 }
 
 void *VariablePane::addObject(int row)
@@ -121,7 +122,7 @@ void VariablePane::take(const QMimeData *fields)
         emit told(tr("Choose the entity that is to have the fields first."));
         return;
     }
-    const QList<TDmVariable *> before = *shown->getVariables();
+    const QSet<TDmVariable *> before(shown->getVariables()->cbegin(), shown->getVariables()->cend());
     Edit edit(document(), Scope::ofEntity(*shown));
     // A model of its own: the table's is made anew when the edit is announced.
     VariableDiccionaryModel target(nullptr, shown, &document().root());
