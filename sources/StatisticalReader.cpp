@@ -1,0 +1,7 @@
+#include "sources/StatisticalReader.h"
+
+namespace tessel::sources {
+
+SourceOutcome readStatistical(const QString &, StatisticalFormat, const ReadOptions &) { return {}; }
+
+} // namespace tessel::sources
