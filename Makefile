@@ -1,5 +1,5 @@
 # Thin calls of presets and scripts. "make run" and "make test" are all that a newcomer needs.
-.PHONY: run test asan bench check format icons pictures translations fuzz clean
+.PHONY: run test asan bench check coverage format fuzz icons mutate pictures translations clean
 
 SECONDS ?= 60
 
@@ -18,15 +18,19 @@ asan:
 	scripts/build asan
 	ctest --preset asan
 
-# TESSEL_BENCH_DATA names a folder of dictionaries to be measured besides the generated ones.
 bench:
 	scripts/install-packages bench
 	scripts/build release
-	build/release/bench/bench_dictionary
-	build/release/bench/bench_naming --benchmark_min_time=0.2
-	build/release/bench/bench_variables --benchmark_min_time=0.2
-	build/release/bench/bench_filters --benchmark_min_time=0.3
-	QT_QPA_PLATFORM=offscreen build/release/bench/bench_editor build/release/editor/tessel-editor build/release/bench/bare_window
+	scripts/bench
+
+coverage:
+	scripts/install-packages coverage
+	scripts/coverage
+
+mutate:
+	scripts/install-packages test mutate
+	scripts/build dev
+	scripts/mutate
 
 check:
 	scripts/install-packages check

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <cstddef>
 #include <cstdlib>
+#include <iostream>
 #include <limits>
 #include <map>
 #include <string>
@@ -47,9 +49,23 @@ void measure(benchmark::State &state, Work &&work, Prepare &&prepare)
     state.counters["best"] = best;
 }
 
-/// Keeps the fastest round of each measurement for the table at the end.
+/// One line of the table that all benchmarks share: a figure, that of its peer in the same run, and the
+/// ratio, which stays below the limit; 0: there is none. The peer of a growth is the same work on a small
+/// input.
+inline void printRow(const std::string &title, double ours, double peer, const char *unit, double limit = 0)
+{
+    std::printf("%-58s %12.4g %12.4g %-8s %7.3f ", title.c_str(), ours, peer, unit, ours / peer);
+    if (limit > 0)
+        std::printf("%6.2f%s\n", limit, ours > limit * peer ? " over" : "");
+    else
+        std::printf("%6s\n", "");
+}
+
+/// Keeps the fastest round of each measurement for the table, which alone goes to standard output.
 class Collector : public benchmark::ConsoleReporter {
 public:
+    Collector() { SetOutputStream(&std::cerr); }
+
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {

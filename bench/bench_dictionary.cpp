@@ -121,21 +121,23 @@ void write(benchmark::State &state, const Document &document)
 
 void printTable(const std::vector<Document> &documents, std::map<std::string, double> &seconds)
 {
+    using tessel::bench::printRow;
     const auto of = [&](const char *what, const Document &d) { return seconds[what + (" " + d.title)]; };
-    std::printf("\n%-32s %9s %10s %12s %12s %12s %12s\n", "document", "variables", "read/parse", "build/text",
-        "read ns/var", "build ns/var", "bytes/var");
     for (const Document &d : documents) {
-        std::printf("%-32s %9d %10.3f %12.3f %12.0f %12.0f %12.0f\n", d.title.c_str(), d.variables,
-            of("read", d) / of("parse", d), of("build", d) / of("text", d), of("read", d) * 1e9 / d.variables,
-            of("build", d) * 1e9 / d.variables, d.bytesPerVariable);
+        printRow("read / parse: " + d.title, of("read", d) * 1e3, of("parse", d) * 1e3, "ms", 0.2);
+        printRow("build / text: " + d.title, of("build", d) * 1e3, of("text", d) * 1e3, "ms", 0.8);
     }
     const Document &small = documents[0];
     const Document &large = documents[2];
-    const auto growth = [&](const char *what) {
-        return of(what, large) / large.variables / (of(what, small) / small.variables);
+    const auto perVariable = [&](const char *what, const Document &d) {
+        return of(what, d) * 1e9 / d.variables;
     };
-    std::printf("growth per variable from %d to %d: read %.2f, build %.2f, memory %.2f\n", small.variables,
-        large.variables, growth("read"), growth("build"), large.bytesPerVariable / small.bytesPerVariable);
+    for (const char *what : {"read", "build"}) {
+        printRow(std::string(what) + " a variable, of 100,000 / of 1,000", perVariable(what, large),
+            perVariable(what, small), "ns", 1.3);
+    }
+    printRow("memory of a variable, of 100,000 / of 1,000", large.bytesPerVariable, small.bytesPerVariable,
+        "bytes", 1.3);
 }
 
 } // namespace

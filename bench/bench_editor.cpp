@@ -1,6 +1,7 @@
 // The editor's start, a keystroke in its search field and its memory, as shares of what a bare window, Qt's
 // own proxy and the file take in the same run. Usage: bench_editor EDITOR BARE_WINDOW [DICTIONARY]
 
+#include "bench/Measure.h"
 #include "business/models/VariableDiccionaryModel.h"
 #include "business/models/VariablesDictionaryProxyModel.h"
 #include "editor/DictionaryDocument.h"
@@ -22,6 +23,8 @@
 #include <memory>
 
 namespace {
+
+using tessel::bench::printRow;
 
 constexpr int kRounds = 15;
 constexpr int kRows = 20'000;
@@ -93,11 +96,6 @@ double residentKilobytes()
     return 0.0;
 }
 
-void print(const char *what, double ours, double peer, double limit, const char *unit)
-{
-    std::printf("%-52s %10.2f %10.2f %-3s %7.2f %7.2f\n", what, ours, peer, unit, ours / peer, limit);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -111,11 +109,9 @@ int main(int argc, char **argv)
         return 2;
     }
     const QString file = arguments.value(3, QStringLiteral("samples/census.json"));
-    std::printf("\n%-52s %10s %10s %-3s %7s %7s\n", "editor", "ours", "peer", "", "ratio", "limit");
-
     const double bare = startOf(arguments.at(2), {});
     const double editor = startOf(arguments.at(1), {QStringLiteral("--exit-when-shown"), file});
-    print("start with a dictionary / bare window", editor * 1e3, bare * 1e3, 3.0, "ms");
+    printRow("start of the editor with a dictionary / bare window", editor * 1e3, bare * 1e3, "ms", 3.0);
 
     {
         const std::unique_ptr<TDmEntity> entity = newEntity();
@@ -129,8 +125,8 @@ int main(int argc, char **argv)
         ours.setSourceModel(&model);
         stock.setSourceModel(&model);
         const double peer = keystrokeOf(view, stock);
-        print("keystroke over 20,000 variables / Qt's own proxy", keystrokeOf(view, ours) * 1e3, peer * 1e3,
-            1.3, "ms");
+        printRow("keystroke over 20,000 variables / Qt's own proxy", keystrokeOf(view, ours) * 1e3,
+            peer * 1e3, "ms", 1.3);
     }
 
     tessel::editor::MainWindow window;
@@ -139,7 +135,7 @@ int main(int argc, char **argv)
     const double before = residentKilobytes();
     window.document().open(file);
     QApplication::processEvents();
-    print("memory for the opened dictionary / its file", residentKilobytes() - before,
-        double(QFileInfo(file).size()) / 1024.0, 20.0, "KiB");
+    printRow("memory for the opened dictionary / its file", residentKilobytes() - before,
+        double(QFileInfo(file).size()) / 1024.0, "KiB", 20.0);
     return 0;
 }

@@ -217,12 +217,10 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     tessel::bench::Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    std::printf("\n%-45s %9s %9s %8s %8s\n", "100,000 rows", "ours ms", "peer ms", "ratio", "limit");
     for (const Comparison &comparison : comparisons) {
         const double ours = collector.seconds[comparison.title + " ours"];
         const double peer = collector.seconds[comparison.title + " peer"];
-        std::printf("%-45s %9.1f %9.1f %8.2f %8.2f\n", comparison.title.c_str(), ours * 1e3, peer * 1e3,
-            ours / peer, comparison.limit);
+        tessel::bench::printRow(comparison.title, ours * 1e3, peer * 1e3, "ms", comparison.limit);
     }
     return 0;
 }

@@ -103,27 +103,18 @@ struct Task {
 };
 const Task kTasks[] = {{"names", names}, {"aliases", aliases}, {"groups", groups}, {"findings", findings}};
 
-/// Nanoseconds per entity, and how much more they are in the larger of two trees of one shape.
+/// How much more an entity costs in the larger of two trees of one shape.
 void printTable(const std::vector<Tree> &trees, std::map<std::string, double> &seconds)
 {
     const auto perEntity = [&](const Task &task, const Tree &tree) {
         return seconds[task.name + (" " + tree.title())] * 1e9 / tree.entities;
     };
-    std::printf("\n%-32s", "ns per entity");
-    for (const Task &task : kTasks)
-        std::printf(" %9s", task.name);
-    std::printf("\n");
-    for (std::size_t i = 0; i < trees.size(); ++i) {
-        std::printf("%-32s", trees[i].title().c_str());
-        for (const Task &task : kTasks)
-            std::printf(" %9.1f", perEntity(task, trees[i]));
-        std::printf("\n");
-        if (i % 2 == 0)
-            continue;
-        std::printf("%-32s", "  growth per entity");
-        for (const Task &task : kTasks)
-            std::printf(" %9.2f", perEntity(task, trees[i]) / perEntity(task, trees[i - 1]));
-        std::printf("\n");
+    for (std::size_t i = 0; i + 1 < trees.size(); i += 2) {
+        for (const Task &task : kTasks) {
+            tessel::bench::printRow(
+                std::string(task.name) + " an entity, " + trees[i].shape + ", of 10,000 / of 1,000",
+                perEntity(task, trees[i + 1]), perEntity(task, trees[i]), "ns");
+        }
     }
 }
 

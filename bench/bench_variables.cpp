@@ -118,19 +118,16 @@ struct Task {
     const char *name;
     void (*work)(benchmark::State &, int);
 };
-const Task kTasks[] = {{"drop", drop}, {"merge", merge}, {"repeated names", warning}};
+const Task kTasks[] = {{"drop", drop}, {"check for equal ones", merge}, {"repeated names", warning}};
 
 std::string titleOf(const Task &task, int size) { return task.name + (" " + std::to_string(size)); }
 
 void printTable(std::map<std::string, double> &seconds)
 {
-    std::printf("\n%-20s %12s %12s %10s\n", "ns per variable", "1,000", "20,000", "growth");
     for (const Task &task : kTasks) {
-        double perItem[2] = {};
-        for (int i = 0; i < 2; ++i)
-            perItem[i] = seconds[titleOf(task, kSizes[i])] * 1e9 / kSizes[i];
-        std::printf(
-            "%-20s %12.0f %12.0f %10.2f\n", task.name, perItem[0], perItem[1], perItem[1] / perItem[0]);
+        const auto perItem = [&](int size) { return seconds[titleOf(task, size)] * 1e9 / size; };
+        tessel::bench::printRow(std::string(task.name) + " a variable, of 20,000 / of 1,000",
+            perItem(kSizes[1]), perItem(kSizes[0]), "ns", 1.3);
     }
 }
 
