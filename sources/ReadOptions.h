@@ -12,7 +12,7 @@ struct ReadOptions {
     QString encoding; ///< Of the texts, a name as iconv knows it; empty: what the source declares.
     QString
         catalogue; ///< The .sas7bcat with the labels; empty: the one beside the .sas7bdat, if there is any.
-    QChar separator; ///< Of a CSV file; null: the one that its header shows.
+    QChar separator; ///< Of a CSV file, a character of ASCII; null: the one that its header shows.
 
     /// How many records are looked at, from the first, for the categories of fields that declare none and for
     /// the ranges of numeric fields; 0: metadata only, the time does not depend on the number of records.

@@ -3,6 +3,7 @@
 #include "model/TDmSourceField.h"
 #include "sources/SourceRemark.h"
 
+#include <QChar>
 #include <QString>
 #include <QVector>
 
@@ -25,6 +26,7 @@ struct SourceFields {
     QString title; ///< The source's own label; may be empty.
     qint64 rows = -1; ///< How many records the source says that it has; -1 where it does not tell.
     qint64 rowsRead = 0; ///< How many of them were looked at.
+    QChar separator; ///< Of a CSV file; null when none was asked for and none was found: it has one column.
 };
 
 } // namespace tessel::sources

@@ -1,9 +1,9 @@
 #include "editor/views/CsvSourceTab.h"
 
 #include "business/models/CsvPropertiesModel.h"
-#include "editor/sources/CsvHeader.h"
 #include "editor/views/SourceProblem.h"
 #include "editor/views/SourceTable.h"
+#include "sources/CsvReader.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -55,21 +55,25 @@ bool CsvSourceTab::open(const QString &name)
 
 bool CsvSourceTab::read()
 {
-    documents::Outcome<CsvHeader> outcome = CsvHeader::readFile(file, separatorBox->currentData().toChar());
+    sources::ReadOptions options;
+    options.separator = separatorBox->currentData().toChar();
+    sources::SourceOutcome outcome = sources::readCsv(file, options);
     if (!outcome.result) {
         emit problemFound(sentenceOn(file, outcome.problem));
         return false;
     }
-    CsvHeader &header = *outcome.result;
+    sources::SourceFields &source = *outcome.result;
     const QString name = QFileInfo(file).fileName();
-    const int size = int(header.fields.size());
-    QStringList sentences{size == 1 ? tr("%1: 1 field in %2.").arg(name, header.encoding)
-                                    : tr("%1: %n fields in %2.", nullptr, size).arg(name, header.encoding)};
-    const int found = separatorBox->findData(header.separator);
+    const int size = int(source.fields.size());
+    QStringList sentences{size == 1 ? tr("%1: 1 field in %2.").arg(name, source.encoding)
+                                    : tr("%1: %n fields in %2.", nullptr, size).arg(name, source.encoding)};
+    const int found = separatorBox->findData(source.separator);
     if (size > 1)
         sentences.append(tr("Separator: %1.").arg(separatorBox->itemText(found).toLower()));
-    showCatalogue<CsvPropertiesModel>(std::move(header.fields));
-    describe(QDir::toNativeSeparators(file), sentences + header.remarks);
+    for (const sources::SourceRemark &remark : qAsConst(source.remarks))
+        sentences.append(remark.sentence());
+    showCatalogue<CsvPropertiesModel>(std::move(source.fields));
+    describe(QDir::toNativeSeparators(file), sentences);
     return true;
 }
 

@@ -1,11 +1,15 @@
-#include "editor/sources/CsvHeader.h"
+#include "sources/CsvHeader.h"
+
+#include "sources/CsvReader.h"
+
+#include "tests/sources/CsvFixtures.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
 #include <QtTest>
 
-using tessel::documents::Outcome;
-using tessel::editor::CsvHeader;
+using namespace tessel::sources;
+using namespace tessel::test;
 
 namespace {
 
@@ -24,7 +28,7 @@ QString unclosed(int field)
 }
 
 /// "[A][B] ENCODING SEPARATOR", remarks behind it in brackets of their own; or what is wrong.
-QString textOf(const Outcome<CsvHeader> &outcome)
+QString textOf(const SourceOutcome &outcome)
 {
     if (!outcome.result)
         return outcome.problem.message;
@@ -36,48 +40,17 @@ QString textOf(const Outcome<CsvHeader> &outcome)
     text += separator.isNull()           ? QStringLiteral("none")
         : separator == QLatin1Char('\t') ? QStringLiteral("tab")
                                          : QString(separator);
-    for (const QString &remark : outcome.result->remarks)
+    for (const QString &remark : remarksOf(*outcome.result))
         text += QStringLiteral(" {%1}").arg(remark);
     return text;
 }
 
-Outcome<CsvHeader> headerOf(QByteArray bytes, QChar separator = QChar())
+SourceOutcome headerOf(const QByteArray &bytes, QChar separator = QChar())
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    return CsvHeader::read(buffer, separator);
+    ReadOptions options;
+    options.separator = separator;
+    return outcomeOf(bytes, options);
 }
-
-QByteArray utf16(const QString &text, bool isBigEndian)
-{
-    QByteArray bytes(isBigEndian ? "\xfe\xff" : "\xff\xfe");
-    for (const QChar c : text) {
-        const char high = char(c.unicode() >> 8);
-        const char low = char(c.unicode() & 0xff);
-        bytes.append(isBigEndian ? high : low).append(isBigEndian ? low : high);
-    }
-    return bytes;
-}
-
-/// A device that counts what is read of it.
-class CountingBuffer : public QBuffer {
-public:
-    explicit CountingBuffer(QByteArray *bytes)
-        : QBuffer(bytes)
-    {
-        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    }
-
-    qint64 bytesRead = 0;
-
-protected:
-    qint64 readData(char *data, qint64 size) override
-    {
-        const qint64 count = QBuffer::readData(data, size);
-        bytesRead += qMax(count, qint64(0));
-        return count;
-    }
-};
 
 } // namespace
 
@@ -113,7 +86,11 @@ private slots:
         row("a line end of two in quotation marks", "\"a\r\nb\",c\r\n", "[a\r\nb][c] UTF-8 ,");
         row("blanks before a quotation mark", "a, \"b,c\"\n", "[a][b,c] UTF-8 ,");
         row("a tab before a quotation mark", "a;\t\"b;c\";d\n", "[a][b;c][d] UTF-8 ;");
-        row("text behind a closing quotation mark", "\"a\"b\"c,d\n", "[ab\"c][d] UTF-8 ,");
+        row("quotation marks that nobody doubled", "\"a \"b\" c\",d\n", "[a \"b\" c][d] UTF-8 ,");
+        row("a lone quotation mark within a quoted field", "\"5\" pipe, long\";d;\"e\"\n",
+            "[5\" pipe, long][d][e] UTF-8 ;");
+        row("blanks behind a closing quotation mark", "\"a,b\" ;\"c\"  \n", "[a,b][c] UTF-8 ;");
+        row("a blank and two quotation marks in a quoted field", "\"a\" \",b;c\n", "[a\"][b;c] UTF-8 ,");
         row("a quotation mark within a field", "5\" pipe,6\" pipe\n", "[5\" pipe][6\" pipe] UTF-8 ,");
         row("CR ends the header", "a,b\rc,d\r", "[a][b] UTF-8 ,");
         row("CR and LF end the header", "a,b\r\nc,d\r\n", "[a][b] UTF-8 ,");
@@ -127,6 +104,8 @@ private slots:
         row("nothing but separators", ",,\n",
             "[FIELD_1][FIELD_2][FIELD_3] UTF-8 , {3 fields have no name and are called FIELD_1, FIELD_2, "
             "FIELD_3.}");
+        row("nothing but a tab", "\t",
+            "[FIELD_1][FIELD_2] UTF-8 tab {2 fields have no name and are called FIELD_1, FIELD_2.}");
         row("nothing but an empty quoted field", "\"\"\n",
             "[FIELD_1] UTF-8 none {1 field has no name and is called FIELD_1.}");
         row("many empty names are not all listed", ",,,,,,\n",
@@ -186,13 +165,19 @@ private slots:
 
     void fieldsSayThatTheyComeFromCsv()
     {
-        const Outcome<CsvHeader> outcome = headerOf("ID,SEX\n");
+        const SourceOutcome outcome = headerOf("ID,SEX\n1,2\n");
         QVERIFY(outcome.result.has_value());
+        QCOMPARE(outcome.result->format, QString("CSV"));
+        QCOMPARE(outcome.result->rows, qint64(-1));
+        QCOMPARE(outcome.result->rowsRead, qint64(0));
         QCOMPARE(outcome.result->fields.size(), std::size_t(2));
+        int position = 0;
         for (const auto &field : outcome.result->fields) {
             QCOMPARE(field->getDataProviderType(), QString("CSV"));
             QCOMPARE(field->getFieldType(), QString());
             QCOMPARE(field->tag, 0);
+            QCOMPARE(field->size, 0);
+            QCOMPARE(field->relativePosition, ++position);
         }
     }
 
@@ -241,7 +226,8 @@ private slots:
         row("an open quotation mark", "\"a,b\nc,d\n", unclosed(1));
         row("an open quotation mark further on", "a,b,\"c\nd,e,f\n", unclosed(3));
         row("an open quotation mark that ends with a doubled one", "a,\"b\"\"", unclosed(2));
-        row("too many fields", QByteArray(CsvHeader::kMostFields, ',') + '\n',
+        row("text behind what would be a closing one", "\"a\"b\"c,d\n", unclosed(1));
+        row("too many fields", QByteArray(kMostCsvFields, ',') + '\n',
             "has more than 100000 fields in its first line; expected fewer");
     }
 
@@ -249,7 +235,7 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, message);
-        const Outcome<CsvHeader> outcome = headerOf(bytes);
+        const SourceOutcome outcome = headerOf(bytes);
         QVERIFY(!outcome.result.has_value());
         QCOMPARE(outcome.problem.message, message);
         QCOMPARE(outcome.problem.line, 0);
@@ -257,9 +243,9 @@ private slots:
 
     void asManyFieldsAsAllowedAreRead()
     {
-        const Outcome<CsvHeader> outcome = headerOf(QByteArray(CsvHeader::kMostFields - 1, ',') + '\n');
+        const SourceOutcome outcome = headerOf(QByteArray(kMostCsvFields - 1, ',') + '\n');
         QVERIFY(outcome.result.has_value());
-        QCOMPARE(outcome.result->fields.size(), std::size_t(CsvHeader::kMostFields));
+        QCOMPARE(outcome.result->fields.size(), std::size_t(kMostCsvFields));
         QCOMPARE(outcome.result->fields.back()->name, QString("FIELD_100000"));
         QCOMPARE(outcome.result->remarks.size(), 1);
     }
@@ -306,83 +292,6 @@ private slots:
         }
     }
 
-    void onlyWhatTheHeaderNeedsIsRead_data()
-    {
-        QTest::addColumn<int>("headerSize");
-        QTest::addColumn<int>("mostRead");
-        constexpr int first = 64 * 1024;
-        QTest::newRow("a short header") << 10 << first;
-        QTest::newRow("a line end as the last byte of the first block") << first - 1 << first;
-        QTest::newRow("a line end as the first byte of the second block") << first << 2 * first;
-        QTest::newRow("a long header") << 5 * first << 8 * first;
-        QTest::newRow("the longest header") << CsvHeader::kMostBytes - 1 << CsvHeader::kMostBytes;
-    }
-
-    void onlyWhatTheHeaderNeedsIsRead()
-    {
-        QFETCH(int, headerSize);
-        QFETCH(int, mostRead);
-        QByteArray bytes = QByteArray(headerSize - 2, 'x') + ",y\n" + QByteArray(6 * 1024 * 1024, 'z');
-        CountingBuffer buffer(&bytes);
-        const Outcome<CsvHeader> outcome = CsvHeader::read(buffer);
-        QVERIFY(outcome.result.has_value());
-        QCOMPARE(outcome.result->fields.size(), std::size_t(2));
-        QCOMPARE(outcome.result->fields.front()->name.size(), headerSize - 2);
-        QCOMPARE(buffer.bytesRead, qint64(mostRead));
-
-        QVERIFY(buffer.seek(0));
-        const Outcome<CsvHeader> chosen = CsvHeader::read(buffer, QLatin1Char(','));
-        QVERIFY(chosen.result.has_value());
-        QCOMPARE(chosen.result->fields.size(), std::size_t(2));
-        QCOMPARE(buffer.bytesRead, qint64(2 * mostRead));
-    }
-
-    void theEndOfABlockDecidesNothing()
-    {
-        // For all that the first block tells, the quotation mark belongs to a field behind a bar.
-        const QByteArray start("a,b|\"c\n");
-        QCOMPARE(textOf(headerOf(start + QByteArray(100, 'x') + "\";;;\n")), QString("[a,b|\"c] UTF-8 ;"));
-        QCOMPARE(
-            textOf(headerOf(start + QByteArray(100'000, 'x') + "\";;;\n")), QString("[a,b|\"c] UTF-8 ;"));
-    }
-
-    void aHeaderWithoutEndIsGivenUp_data()
-    {
-        QTest::addColumn<QByteArray>("start");
-        QTest::newRow("a line without end") << QByteArray("a,b");
-        QTest::newRow("an open quotation mark") << QByteArray("a,\"b\n");
-        QTest::newRow("empty lines without end") << QByteArray("\n");
-    }
-
-    void aHeaderWithoutEndIsGivenUp()
-    {
-        QFETCH(QByteArray, start);
-        const char filler = start == "\n" ? '\n' : 'x';
-        QByteArray bytes = start + QByteArray(CsvHeader::kMostBytes - start.size() + 1, filler);
-        CountingBuffer buffer(&bytes);
-        const Outcome<CsvHeader> outcome = CsvHeader::read(buffer);
-        QVERIFY(!outcome.result.has_value());
-        QCOMPARE(outcome.problem.message,
-            QString(
-                "has no end of its header within 4 MiB; close its quotation marks, or choose another file"));
-        QCOMPARE(buffer.bytesRead, qint64(CsvHeader::kMostBytes));
-    }
-
-    void aFileOfNothingButAHeaderMayBeAsLongAsTheLimit()
-    {
-        const Outcome<CsvHeader> outcome = headerOf(QByteArray(CsvHeader::kMostBytes, 'x'));
-        QVERIFY(outcome.result.has_value());
-        QCOMPARE(outcome.result->fields.front()->name.size(), CsvHeader::kMostBytes);
-    }
-
-    void aCharacterMayStandAcrossTwoBlocks()
-    {
-        const QByteArray name = QByteArray(64 * 1024 - 1, 'x') + "\xc3\xb1";
-        const Outcome<CsvHeader> outcome = headerOf(name + ",b\n");
-        QCOMPARE(outcome.result->encoding, QString("UTF-8"));
-        QCOMPARE(outcome.result->fields.front()->name, QString::fromUtf8(name));
-    }
-
     void filesAreRead()
     {
         const QTemporaryDir folder;
@@ -391,12 +300,13 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("a;b,c\n");
         file.close();
-        QCOMPARE(textOf(CsvHeader::readFile(name)), QString("[a;b][c] UTF-8 ,"));
-        QCOMPARE(textOf(CsvHeader::readFile(name, QLatin1Char(';'))), QString("[a][b,c] UTF-8 ;"));
-        QCOMPARE(textOf(CsvHeader::readFile(folder.filePath(QStringLiteral("none.csv")))),
+        QCOMPARE(textOf(readCsv(name)), QString("[a;b][c] UTF-8 ,"));
+        ReadOptions withSemicolon;
+        withSemicolon.separator = QLatin1Char(';');
+        QCOMPARE(textOf(readCsv(name, withSemicolon)), QString("[a][b,c] UTF-8 ;"));
+        QCOMPARE(textOf(readCsv(folder.filePath(QStringLiteral("none.csv")))),
             QString("cannot be read: No such file or directory"));
-        QCOMPARE(textOf(CsvHeader::readFile(folder.path())),
-            QString("cannot be read: it is a folder; choose a file"));
+        QCOMPARE(textOf(readCsv(folder.path())), QString("cannot be read: it is a folder; choose a file"));
     }
 };
 
