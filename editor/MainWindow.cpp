@@ -5,6 +5,7 @@
 #include "editor/FileHandling.h"
 #include "editor/Place.h"
 #include "editor/Settings.h"
+#include "editor/views/DeclaredCodesOffer.h"
 #include "editor/views/EntityForm.h"
 #include "editor/views/EntityPane.h"
 #include "editor/views/LabelPane.h"
@@ -106,6 +107,7 @@ void MainWindow::makePanes()
     sources = new SourcesPane;
     startPage = new StartPage;
     notice = new NoticeBar;
+    codesOffer = new DeclaredCodesOffer(*dictionary);
 
     heading = new QLabel;
     heading->setObjectName(QStringLiteral("heading"));
@@ -123,6 +125,7 @@ void MainWindow::makePanes()
     middleLayout->setContentsMargins(0, 0, 0, 0);
     middleLayout->setSpacing(0);
     middleLayout->addWidget(notice);
+    middleLayout->addWidget(codesOffer);
     middleLayout->addWidget(centre, 1);
     setCentralWidget(middle);
 
@@ -160,11 +163,9 @@ void MainWindow::connectPanes()
     connect(ranges, &RangePane::told, this, say);
     connect(sources, &SourcesPane::addRequested, variables, &VariablePane::take);
     connect(sources, &SourcesPane::problemFound, this, warn);
-    const auto noDatasets = [this] {
-        notice->tell(tr("Files of this kind cannot be read yet; open a CSV file or a list of lookups."));
-    };
-    connect(sources, &SourcesPane::datasetRequested, this, noDatasets);
-    connect(sources, &SourcesPane::fileDropped, this, noDatasets);
+    connect(sources, &SourcesPane::problemSolved, notice, &NoticeBar::withdraw);
+    connect(variables, &VariablePane::taken, codesOffer, &DeclaredCodesOffer::consider);
+    connect(codesOffer, &DeclaredCodesOffer::told, this, say);
     connect(problems, &ProblemsPane::goTo, this, &MainWindow::goTo);
     connect(problems, &ProblemsPane::countChanged, this, [this](int count) {
         problemsDock->setWindowTitle(count > 0 ? tr("Problems (%1)").arg(count) : tr("Problems"));

@@ -14,6 +14,7 @@ class QTabWidget;
 namespace tessel::editor {
 
 class AutoSave;
+class DeclaredCodesOffer;
 class DictionaryDocument;
 class EntityForm;
 class EntityPane;
@@ -85,6 +86,7 @@ private:
     QStackedWidget *centre = nullptr;
     StartPage *startPage = nullptr;
     NoticeBar *notice = nullptr;
+    DeclaredCodesOffer *codesOffer = nullptr;
     EntityPane *entities = nullptr;
     VariablePane *variables = nullptr;
     LabelPane *labels = nullptr;

@@ -1,43 +1,43 @@
 #include "editor/views/NoticeBar.h"
 
-#include <QDialog>
-#include <QDialogButtonBox>
+#include "editor/views/DetailsDialog.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace tessel::editor {
 
-NoticeBar::NoticeBar(QWidget *parent)
+NoticeBar::NoticeBar(const QString &name, QWidget *parent)
     : QFrame(parent)
+    , row(new QHBoxLayout(this))
     , label(new QLabel(this))
     , detailsButton(new QPushButton(tr("&Details"), this))
 {
     setFrameShape(StyledPanel);
     setBackgroundRole(QPalette::ToolTipBase);
     setAutoFillBackground(true);
-    label->setObjectName(QStringLiteral("notice"));
+    label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setForegroundRole(QPalette::ToolTipText);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    detailsButton->setObjectName(QStringLiteral("noticeDetails"));
+    detailsButton->setObjectName(name + QStringLiteral("Details"));
     detailsButton->setAccessibleName(tr("Details"));
     auto *close = new QToolButton(this);
     close->setText(QStringLiteral("✕"));
     close->setAutoRaise(true);
-    close->setObjectName(QStringLiteral("noticeClose"));
+    close->setObjectName(name + QStringLiteral("Close"));
     close->setAccessibleName(tr("Close this notice"));
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 4, 4, 4);
-    layout->addWidget(label, 1);
-    layout->addWidget(detailsButton);
-    layout->addWidget(close);
+    row->setContentsMargins(8, 4, 4, 4);
+    row->addWidget(label, 1);
+    row->addWidget(detailsButton);
+    row->addWidget(close);
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
-    connect(detailsButton, &QPushButton::clicked, this, &NoticeBar::showDetails);
+    connect(close, &QToolButton::clicked, this, &NoticeBar::closed);
+    connect(detailsButton, &QPushButton::clicked, this,
+        [this] { (new DetailsDialog(label->text(), details, this))->show(); });
     hide();
 }
 
@@ -49,23 +49,25 @@ void NoticeBar::tell(const QString &sentence, const QString &moreText)
     show();
 }
 
+QPushButton *NoticeBar::addButton(const QString &text, const QString &name)
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(name);
+    QString plain = text;
+    button->setAccessibleName(plain.remove(QLatin1Char('&')));
+    // Before the one that closes the bar, by Tab as well.
+    QWidget *close = row->itemAt(row->count() - 1)->widget();
+    row->insertWidget(row->count() - 1, button);
+    setTabOrder(button, close);
+    return button;
+}
+
 QString NoticeBar::text() const { return isHidden() ? QString() : label->text(); }
 
-void NoticeBar::showDetails()
+void NoticeBar::withdraw(const QString &sentence)
 {
-    auto *dialog = new QDialog(this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(label->text());
-    auto *text = new QPlainTextEdit(details, dialog);
-    text->setReadOnly(true);
-    text->setAccessibleName(tr("Details"));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
-    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::close);
-    auto *layout = new QVBoxLayout(dialog);
-    layout->addWidget(text);
-    layout->addWidget(buttons);
-    dialog->resize(720, 360);
-    dialog->show();
+    if (text() == sentence)
+        hide();
 }
 
 } // namespace tessel::editor

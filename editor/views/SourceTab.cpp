@@ -19,6 +19,7 @@ SourceTab::SourceTab(
     , words(tabWords)
     , proxy(proxyModel)
     , tools(new QHBoxLayout)
+    , knowledge(new QHBoxLayout)
     , line(new SourceLine(this))
     , filter(new SearchLine(this))
     , count(new QLabel(this))
@@ -55,7 +56,8 @@ SourceTab::SourceTab(
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->addLayout(tools);
-    column->addWidget(line);
+    knowledge->addWidget(line, 1);
+    column->addLayout(knowledge);
     column->addWidget(table);
     line->hide();
     table->setModel(proxy);

@@ -78,6 +78,9 @@ protected:
     SourceTable *sourceTable() const { return table; }
     QBoxLayout *toolRow() const { return tools; }
 
+    /// The row of what is known of the file.
+    QBoxLayout *lineRow() const { return knowledge; }
+
 private:
     void setCatalogue(std::shared_ptr<void> objects, std::unique_ptr<QAbstractItemModel> model);
     void add();
@@ -88,6 +91,7 @@ private:
     std::shared_ptr<void> borrowed;
     std::unique_ptr<QAbstractItemModel> catalogue;
     QBoxLayout *tools;
+    QBoxLayout *knowledge;
     SourceLine *line;
     SearchLine *filter;
     QLabel *count;

@@ -3,7 +3,6 @@
 #include "editor/views/CsvSourceTab.h"
 #include "editor/views/DatasetSourceTab.h"
 #include "editor/views/LookupSourceTab.h"
-#include "model/TDmSourceField.h"
 
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -12,6 +11,8 @@
 #include <QTabWidget>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tessel::editor {
 namespace {
@@ -52,7 +53,7 @@ SourcesPane::SourcesPane(QWidget *parent)
     // Whoever gives the keyboard to the pane means the rows that are seen.
     setFocusProxy(csv);
     connect(tabs, &QTabWidget::currentChanged, this, [this] { setFocusProxy(tabs->currentWidget()); });
-    connect(dataset, &SourceTab::openRequested, this, &SourcesPane::datasetRequested);
+    connect(dataset, &DatasetSourceTab::problemSolved, this, &SourcesPane::problemSolved);
 }
 
 void SourcesPane::addTab(SourceTab *tab, const QString &title)
@@ -74,11 +75,16 @@ bool SourcesPane::openLookups(const QString &file)
     return lookups->open(file);
 }
 
-void SourcesPane::setDatasetFields(
-    std::vector<std::unique_ptr<TDmSourceField>> fields, const QString &title, const QStringList &remarks)
+bool SourcesPane::openDataset(const QString &file)
 {
     tabs->setCurrentWidget(dataset);
-    dataset->setFields(std::move(fields), title, remarks);
+    return dataset->open(file);
+}
+
+void SourcesPane::setDatasetReader(
+    const std::function<sources::SourceOutcome(const QString &, const sources::ReadOptions &)> &reader)
+{
+    dataset->setReader(reader);
 }
 
 void SourcesPane::focusFilter() { static_cast<SourceTab *>(tabs->currentWidget())->focusFilter(); }
@@ -91,7 +97,7 @@ void SourcesPane::openByEnding(const QString &file)
     else if (ending == QLatin1String("json"))
         openLookups(file);
     else
-        emit fileDropped(file);
+        openDataset(file);
 }
 
 void SourcesPane::dragEnterEvent(QDragEnterEvent *event)
@@ -104,9 +110,12 @@ void SourcesPane::dragEnterEvent(QDragEnterEvent *event)
 
 void SourcesPane::dropEvent(QDropEvent *event)
 {
-    const QStringList files = localFiles(*event->mimeData());
+    QStringList files = localFiles(*event->mimeData());
     event->setDropAction(Qt::CopyAction);
     event->accept();
+    // The labels of a dataset that comes with them wait for it.
+    std::stable_partition(
+        files.begin(), files.end(), [](const QString &file) { return !DatasetSourceTab::isCatalogue(file); });
     for (const QString &file : files)
         openByEnding(file);
 }

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "sources/ReadOptions.h"
+#include "sources/SourceOutcome.h"
+
 #include <QStringList>
 #include <QWidget>
 
-#include <memory>
-#include <vector>
+#include <functional>
 
 class QMimeData;
 class QTabWidget;
-class TDmSourceField;
 
 namespace tessel::editor {
 
@@ -34,10 +35,14 @@ public:
     /// was shown before stays.
     bool openLookups(const QString &file);
 
-    /// Shows \a fields, none of them null, as those of the dataset \a title, a file's name as a rule; \a
-    /// remarks are sentences on what may surprise about them. The fields get their positions as tags.
-    void setDatasetFields(std::vector<std::unique_ptr<TDmSourceField>> fields, const QString &title,
-        const QStringList &remarks = {});
+    /// Shows the fields of the dataset \a file; a .sas7bcat file gives its labels to the dataset that was
+    /// opened before it. False when there are none, and a problem announced unless the user has cancelled;
+    /// what was shown before stays.
+    bool openDataset(const QString &file);
+
+    /// Lets \a reader read the datasets, in place of sources::readSource.
+    void setDatasetReader(
+        const std::function<sources::SourceOutcome(const QString &, const sources::ReadOptions &)> &reader);
 
     /// Gives the keyboard to the filter of the tab in front.
     void focusFilter();
@@ -47,15 +52,11 @@ signals:
     /// good until the receivers return, and not theirs.
     void addRequested(const QMimeData *data);
 
-    /// The button of the dataset tab was pressed: whoever reads datasets asks for one and calls
-    /// setDatasetFields().
-    void datasetRequested();
-
-    /// Something that is neither CSV nor JSON, by its ending, was dropped here.
-    void fileDropped(const QString &file);
-
-    /// Something could not be read; one sentence for the status bar.
+    /// Something could not be read; one sentence.
     void problemFound(const QString &sentence);
+
+    /// What problemFound() told with \a sentence is no longer so.
+    void problemSolved(const QString &sentence);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;

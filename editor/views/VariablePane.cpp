@@ -15,6 +15,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace tessel::editor {
 
@@ -131,14 +132,17 @@ void VariablePane::take(const QMimeData *fields)
     for (TDmVariable *variable : variables)
         variable->setLevel(1);
     // Some may have taken the place of others.
-    const int added = int(std::count_if(variables.cbegin(), variables.cend(),
-        [&before](TDmVariable *variable) { return !before.contains(variable); }));
+    QList<TDmVariable *> added;
+    std::copy_if(variables.cbegin(), variables.cend(), std::back_inserter(added),
+        [&before](TDmVariable *variable) { return !before.contains(variable); });
     if (!edit.commit(tr("add fields to %1").arg(shown->getName()))) {
         emit told(tr("No field was added."));
         return;
     }
-    emit told(tr("%n variables added to %1.", nullptr, added).arg(shown->getName()));
+    emit told(tr("%n variables added to %1.", nullptr, added.size()).arg(shown->getName()));
     select(variables.last());
+    if (!added.isEmpty())
+        emit taken(shown, added, fields);
 }
 
 } // namespace tessel::editor

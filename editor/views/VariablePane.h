@@ -26,6 +26,11 @@ public slots:
     /// Makes variables of \a fields, as one step of the undo stack. \a fields is the caller's.
     void take(const QMimeData *fields);
 
+signals:
+    /// take() has made \a variables, one at least, of \a fields in \a entity. The data is good until the
+    /// receivers return.
+    void taken(TDmEntity *entity, const QList<TDmVariable *> &variables, const QMimeData *fields);
+
 protected:
     QAbstractItemModel *newModel() override;
     Scope editScope(void *object) const override;

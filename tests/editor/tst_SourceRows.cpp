@@ -115,7 +115,7 @@ private slots:
     {
         QFETCH(QString, pattern);
         SourcesPane pane;
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         auto *filter = childOf<QLineEdit>(pane, "datasetFilter");
         QTest::keyClicks(filter, pattern);
@@ -154,7 +154,7 @@ private slots:
     void aBadPatternIsRedAndMatchesNothing()
     {
         SourcesPane pane;
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         auto *filter = childOf<SearchLine>(pane, "datasetFilter");
         const auto *table = childOf<SourceTable>(pane, "datasetTable");
         const auto *count = childOf<QLabel>(pane, "datasetCount");
@@ -195,7 +195,7 @@ private slots:
     void keysLeadFromTheFilterToTheRows()
     {
         SourcesPane pane;
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         QVERIFY(QTest::qWaitForWindowActive(&pane));
         auto *filter = childOf<QLineEdit>(pane, "datasetFilter");
@@ -223,7 +223,7 @@ private slots:
         SourcesPane pane;
         Receiver receiver(pane);
         pane.resize(900, 300);
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         auto *table = childOf<SourceTable>(pane, "datasetTable");
         auto *add = childOf<QPushButton>(pane, "datasetAdd");
@@ -259,7 +259,7 @@ private slots:
         SourcesPane pane;
         Receiver receiver(pane);
         pane.resize(900, 300);
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         auto *table = childOf<SourceTable>(pane, "datasetTable");
         const QPoint place = table->visualRect(table->model()->index(2, 1)).center();
@@ -278,7 +278,7 @@ private slots:
         SourcesPane pane;
         Receiver receiver(pane);
         pane.resize(900, 300);
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         auto *table = childOf<SourceTable>(pane, "datasetTable");
         QHeaderView *header = table->horizontalHeader();
@@ -328,7 +328,7 @@ private slots:
         SourcesPane pane;
         TDmEntity person;
         VariableDiccionaryModel variables(nullptr, &person, &person);
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         connect(&pane, &SourcesPane::addRequested, &pane, [&](const QMimeData *data) {
             variables.dropMimeData(data, Qt::CopyAction, -1, -1, QModelIndex());
         });
@@ -342,7 +342,7 @@ private slots:
     {
         SourcesPane pane;
         pane.resize(900, 300);
-        pane.setDatasetFields(fieldsOf(people), QStringLiteral("people.sav"));
+        showDataset(pane, people, QStringLiteral("people.sav"));
         pane.show();
         auto *table = childOf<SourceTable>(pane, "datasetTable");
         clickRow(*table, 3);

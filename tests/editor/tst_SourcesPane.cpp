@@ -15,49 +15,10 @@ using namespace tessel::test;
 
 namespace {
 
-QStringList sentencesOf(const QSignalSpy &spy)
-{
-    QStringList texts;
-    for (const QList<QVariant> &arguments : spy)
-        texts.append(arguments.first().toString());
-    return texts;
-}
-
-QString lineOf(const SourcesPane &pane, const char *name) { return childOf<SourceLine>(pane, name)->text(); }
-
 QString tabOf(const SourcesPane &pane)
 {
     const auto *tabs = childOf<QTabWidget>(pane, "sourceTabs");
     return tabs->tabText(tabs->currentIndex());
-}
-
-/// Drops \a urls on \a target with Shift pressed, which asks for moving; returns whether they were taken as
-/// copies.
-bool drop(QWidget &target, const QList<QUrl> &urls, Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction)
-{
-    QMimeData data;
-    data.setUrls(urls);
-    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, Qt::ShiftModifier);
-    enter.ignore();
-    QApplication::sendEvent(&target, &enter);
-    if (!enter.isAccepted() || enter.dropAction() != Qt::CopyAction)
-        return false;
-    QDropEvent event(QPointF(5, 5), actions, &data, Qt::LeftButton, Qt::ShiftModifier);
-    event.ignore();
-    QApplication::sendEvent(&target, &event);
-    return event.isAccepted() && event.dropAction() == Qt::CopyAction;
-}
-
-/// The file dialog that \a pane shows; null when it shows none.
-QFileDialog *dialogOf(const SourcesPane &pane) { return pane.findChild<QFileDialog *>(); }
-
-/// Chooses \a name in the file dialog of \a pane.
-void choose(const SourcesPane &pane, const QString &name)
-{
-    auto *edit = childOf<QLineEdit>(*dialogOf(pane), "fileNameEdit");
-    edit->clear();
-    QTest::keyClicks(edit, name);
-    QTest::keyClick(edit, Qt::Key_Return);
 }
 
 } // namespace
@@ -121,8 +82,9 @@ private slots:
         names.sort();
         QCOMPARE(names,
             (QStringList{"csvAdd", "csvFilter", "csvOpen", "csvSeparator", "csvTable", "datasetAdd",
-                "datasetFilter", "datasetOpen", "datasetTable", "lookupAdd", "lookupFilter", "lookupOpen",
-                "lookupTable", "sourceTabs"}));
+                "datasetEncoding", "datasetEncodingList", "datasetEncodingText", "datasetFilter",
+                "datasetOpen", "datasetRanges", "datasetRecords", "datasetRemarks", "datasetTable",
+                "lookupAdd", "lookupFilter", "lookupOpen", "lookupTable", "sourceTabs"}));
     }
 
     void csvFilesAreOpened_data()
@@ -146,7 +108,7 @@ private slots:
         const SourceFiles files;
         SourcesPane pane;
         const QSignalSpy problems(&pane, &SourcesPane::problemFound);
-        pane.setDatasetFields({}, QString());
+        showDataset(pane, {}, QString());
         QVERIFY(pane.openCsv(files.make("a.csv", bytes)));
         QCOMPARE(tabOf(pane), QString("CSV"));
         QTEST(lineOf(pane, "csvLine"), "line");
@@ -247,56 +209,6 @@ private slots:
             childOf<SourceTable>(pane, "lookupTable")->emptyText(), QString("The list of lookups is empty."));
     }
 
-    void datasetsAreShownInTheOrderOfTheFile()
-    {
-        SourcesPane pane;
-        pane.setDatasetFields(fieldsOf({"Z=last", "A=first"}), QStringLiteral("x.sav"), {"A remark."});
-        QCOMPARE(tabOf(pane), QString("Dataset"));
-        const auto *table = childOf<SourceTable>(pane, "datasetTable");
-        QCOMPARE(rowsOf(*table), (QStringList{"Z|last|1", "A|first|2"}));
-        QCOMPARE(lineOf(pane, "datasetLine"), QString("x.sav: 2 fields. A remark."));
-        QVERIFY(table->columnWidth(1) > 0);
-
-        QStringList many;
-        for (int i = 0; i < 10; ++i)
-            many.append(QStringLiteral("F%1=").arg(i));
-        pane.setDatasetFields(fieldsOf(many), QStringLiteral("y.sav"));
-        QCOMPARE(rowsOf(*table).first(), QString("F0||01"));
-        QCOMPARE(lineOf(pane, "datasetLine"), QString("y.sav: 10 fields."));
-        pane.setDatasetFields(fieldsOf({"A=a"}), QStringLiteral("z.sav"));
-        QCOMPARE(lineOf(pane, "datasetLine"), QString("z.sav: 1 field."));
-        pane.setDatasetFields({}, QStringLiteral("n.sav"));
-        QCOMPARE(table->emptyText(), QString("The dataset has no fields."));
-    }
-
-    void aNewFileIsSeenWithoutTheOldFilterAndSelection()
-    {
-        SourcesPane pane;
-        pane.setDatasetFields(fieldsOf({"A=a", "B=b"}), QStringLiteral("x.sav"));
-        auto *filter = childOf<QLineEdit>(pane, "datasetFilter");
-        auto *table = childOf<SourceTable>(pane, "datasetTable");
-        QTest::keyClicks(filter, QStringLiteral("b"));
-        table->selectAll();
-        QVERIFY(childOf<QPushButton>(pane, "datasetAdd")->isEnabled());
-        pane.setDatasetFields(fieldsOf({"C=c", "D=d"}), QStringLiteral("y.sav"));
-        QCOMPARE(filter->text(), QString());
-        QCOMPARE(rowsOf(*table), (QStringList{"C|c|1", "D|d|2"}));
-        QVERIFY(!childOf<QPushButton>(pane, "datasetAdd")->isEnabled());
-    }
-
-    void widthsSurviveANewFile()
-    {
-        SourcesPane pane;
-        pane.resize(900, 300);
-        pane.show();
-        auto *table = childOf<SourceTable>(pane, "datasetTable");
-        pane.setDatasetFields(fieldsOf({"A=a"}), QStringLiteral("x.sav"));
-        table->setColumnWidth(0, 123);
-        pane.setDatasetFields(fieldsOf({"B=b"}), QStringLiteral("y.sav"));
-        QCOMPARE(table->columnWidth(0), 123);
-        QVERIFY(table->columnWidth(1) > 300);
-    }
-
     void droppedFilesGoWhereTheirEndingSays_data()
     {
         QTest::addColumn<QString>("name");
@@ -306,7 +218,7 @@ private slots:
         for (const char *name : {"a.json", "a.JSON"})
             QTest::newRow(name) << name << "lookupLine";
         for (const char *name : {"a.sav", "a", "csv", "a.csv.gz"})
-            QTest::newRow(name) << name << "";
+            QTest::newRow(name) << name << "datasetLine";
     }
 
     void droppedFilesGoWhereTheirEndingSays()
@@ -316,9 +228,8 @@ private slots:
         const SourceFiles files;
         const QString file = files.make(name.toUtf8(), "[]");
         SourcesPane pane;
-        const QSignalSpy others(&pane, &SourcesPane::fileDropped);
+        pane.setDatasetReader(readerOf({"A=a"}));
         QVERIFY(drop(pane, {QUrl::fromLocalFile(file)}));
-        QCOMPARE(sentencesOf(others), tab.isEmpty() ? QStringList{file} : QStringList());
         for (const char *line : {"csvLine", "lookupLine", "datasetLine"}) {
             const bool isOpened = lineOf(pane, line).startsWith(name + QLatin1Char(':'));
             QCOMPARE(isOpened, tab == QLatin1String(line));
@@ -329,7 +240,7 @@ private slots:
     {
         const SourceFiles files;
         SourcesPane pane;
-        const QSignalSpy others(&pane, &SourcesPane::fileDropped);
+        pane.setDatasetReader(readerOf({"A=a"}));
         QVERIFY(drop(pane,
             {QUrl(QStringLiteral("http://example.org/c.csv")),
                 QUrl::fromLocalFile(files.make("a\xc3\xb1o.csv", "A,B")),
@@ -337,7 +248,7 @@ private slots:
         QCOMPARE(
             lineOf(pane, "csvLine"), QStringLiteral("a\u00f1o.csv: 2 fields in UTF-8. Separator: comma."));
         QCOMPARE(lineOf(pane, "lookupLine"), QString("a.json: 0 lookups."));
-        QCOMPARE(sentencesOf(others), QStringList{files.path("x.dta")});
+        QCOMPARE(lineOf(pane, "datasetLine"), QString("x.dta: 1 field."));
     }
 
     void onlyFilesOfThisComputerAreTaken()
@@ -358,7 +269,6 @@ private slots:
         files.make("a.csv", "A,B");
         files.make("a.json", R"([{"id": "A", "label": "a"}])");
         SourcesPane pane;
-        const QSignalSpy datasets(&pane, &SourcesPane::datasetRequested);
         pane.show();
         auto *tabs = childOf<QTabWidget>(pane, "sourceTabs");
 
@@ -384,12 +294,6 @@ private slots:
         QTest::keyClick(dialogOf(pane), Qt::Key_Escape);
         QTRY_VERIFY(!dialogOf(pane));
         QCOMPARE(lineOf(pane, "csvLine"), QString("a.csv: 2 fields in UTF-8. Separator: comma."));
-
-        tabs->setCurrentIndex(1);
-        QCOMPARE(datasets.count(), 0);
-        QTest::mouseClick(childOf<QPushButton>(pane, "datasetOpen"), Qt::LeftButton);
-        QCOMPARE(datasets.count(), 1);
-        QVERIFY(!dialogOf(pane));
     }
 
     void theKeyboardGoesToTheTabInFront()
