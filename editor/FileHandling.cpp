@@ -17,6 +17,12 @@ namespace {
 
 QString shown(const QString &name) { return QFileInfo(name).fileName(); }
 
+/// The file \a name in the middle of a sentence.
+QString named(const QString &name)
+{
+    return name.isEmpty() ? FileHandling::tr("a dictionary that has no file yet") : shown(name);
+}
+
 QString sentenceOf(const QString &name, const documents::FileProblem &problem)
 {
     return problem.line > 0 ? FileHandling::tr("%1, line %2, column %3: %4")
@@ -35,6 +41,7 @@ FileHandling::FileHandling(DictionaryDocument &editedDocument, QWidget *parentWi
     , window(parentWindow)
 {
     connect(&document, &DictionaryDocument::reset, this, [this] { areLossesAccepted = false; });
+    connect(&document, &DictionaryDocument::modifiedChanged, this, &FileHandling::putUnnamedWorkAside);
 }
 
 void FileHandling::newDictionary()
@@ -88,21 +95,52 @@ void FileHandling::offerRecovery()
         recover(QString());
 }
 
+void FileHandling::lookForUnnamedWork()
+{
+    isUnnamedWorkLeft = AutoSave::hasCopy(QString());
+    emit unnamedWorkFound(isUnnamedWorkLeft);
+}
+
+void FileHandling::recoverUnnamed()
+{
+    if (!isUnnamedWorkLeft || !isFreeToLeave())
+        return;
+    // From here on the copy is that of the open dictionary.
+    isUnnamedWorkLeft = false;
+    takeUp(QString());
+    emit unnamedWorkFound(false);
+}
+
+/// New work without a file would have its copy where that of the earlier session is.
+void FileHandling::putUnnamedWorkAside()
+{
+    if (!isUnnamedWorkLeft || !document.isModified() || !document.fileName().isEmpty())
+        return;
+    isUnnamedWorkLeft = false;
+    emit told(tr("The unsaved work was put aside as %1.").arg(AutoSave::setAside(QString())));
+    emit unnamedWorkFound(false);
+}
+
 /// True when the user wants the copy, and it could be read.
 bool FileHandling::recover(const QString &name)
 {
-    const QString what = name.isEmpty() ? tr("a dictionary that has no file yet") : shown(name);
     if (!isConfirmed(window, tr("Recover unsaved work"),
-            tr("The editor ended without saving %1. Go on with the unsaved work?").arg(what))) {
+            tr("The editor ended without saving %1. Go on with the unsaved work?").arg(named(name)))) {
         // Escape is pressed quickly, and the work of a day is not to hang on it.
         emit told(tr("The unsaved work was put aside as %1.").arg(AutoSave::setAside(name)));
         return false;
     }
+    return takeUp(name);
+}
+
+/// True when the copy could be read.
+bool FileHandling::takeUp(const QString &name)
+{
     if (const auto problem = document.recover(AutoSave::copyOf(name), name)) {
         emit failed(sentenceOf(AutoSave::copyOf(name), *problem));
         return false;
     }
-    emit told(tr("The unsaved work of %1 is back; save it to keep it.").arg(what));
+    emit told(tr("The unsaved work of %1 is back; save it to keep it.").arg(named(name)));
     return true;
 }
 

@@ -28,6 +28,10 @@ public:
     /// Offers what a killed program left of a dictionary without a file.
     void offerRecovery();
 
+    /// Looks for what a killed program left of a dictionary without a file, and offers it without a question:
+    /// another dictionary has been asked for. From then on that work is safe from what is done here.
+    void lookForUnnamedWork();
+
     /// Stores what is being typed into a cell or a field, which would do so only when the focus leaves it.
     static void finishTyping();
 
@@ -43,6 +47,9 @@ public slots:
     bool save();
     bool saveAs();
 
+    /// Takes up what lookForUnnamedWork() has found, once nothing else is unsaved.
+    void recoverUnnamed();
+
 signals:
     /// One sentence for the status bar.
     void told(const QString &sentence);
@@ -50,16 +57,22 @@ signals:
     /// What is wrong with a file; one sentence, to stay until it is seen.
     void failed(const QString &sentence);
 
+    /// What a killed program left of a dictionary without a file is there to be taken up, or no longer.
+    void unnamedWorkFound(bool isThere);
+
 private:
     bool load(const QString &name);
     bool write(const QString &name);
     bool acceptsLosses();
     bool recover(const QString &name);
+    bool takeUp(const QString &name);
+    void putUnnamedWorkAside();
 
     DictionaryDocument &document;
     QWidget *window;
     bool isAsking = false;
     bool areLossesAccepted = false;
+    bool isUnnamedWorkLeft = false;
 };
 
 } // namespace tessel::editor

@@ -210,6 +210,12 @@ void MainWindow::makeViewMenu()
                  static_cast<TablePane *>(ranges)})
             pane->unsort();
     });
+    QAction *labelsInTree = add(
+        menu, tr("Labels in the &tree"), nullptr, QKeySequence(tr("Ctrl+T")), QStringLiteral("treeLabels"));
+    labelsInTree->setCheckable(true);
+    connect(labelsInTree, &QAction::toggled, entities, &EntityPane::showLabels);
+    labelsInTree->setChecked(Settings::showsEntityLabels());
+    connect(labelsInTree, &QAction::toggled, this, &Settings::setShowsEntityLabels);
     makeLanguageMenu(menu->addMenu(tr("Lan&guage")));
 }
 

@@ -12,6 +12,7 @@
 #include "editor/views/NoticeBar.h"
 #include "editor/views/ProblemsPane.h"
 #include "editor/views/RangePane.h"
+#include "editor/views/RecoveryBar.h"
 #include "editor/views/SearchField.h"
 #include "editor/views/SourcesPane.h"
 #include "editor/views/StartPage.h"
@@ -124,6 +125,7 @@ void MainWindow::makePanes()
     auto *middleLayout = new QVBoxLayout(middle);
     middleLayout->setContentsMargins(0, 0, 0, 0);
     middleLayout->setSpacing(0);
+    middleLayout->addWidget(new RecoveryBar(*fileHandling));
     middleLayout->addWidget(notice);
     middleLayout->addWidget(codesOffer);
     middleLayout->addWidget(centre, 1);
@@ -161,6 +163,11 @@ void MainWindow::connectPanes()
     connect(variables, &VariablePane::told, this, say);
     connect(labels, &LabelPane::told, this, say);
     connect(ranges, &RangePane::told, this, say);
+    connect(entities, &EntityPane::told, this, say);
+    connect(entities, &EntityPane::warned, notice, &NoticeBar::tell);
+    for (const TablePane *table : {static_cast<TablePane *>(variables), static_cast<TablePane *>(labels),
+             static_cast<TablePane *>(ranges)})
+        connect(table, &TablePane::warned, notice, &NoticeBar::tell);
     connect(sources, &SourcesPane::addRequested, variables, &VariablePane::take);
     connect(sources, &SourcesPane::problemFound, this, warn);
     connect(sources, &SourcesPane::problemSolved, notice, &NoticeBar::withdraw);

@@ -10,6 +10,7 @@ constexpr int kRecentFiles = 10;
 QString recentKey() { return QStringLiteral("recentFiles"); }
 QString geometryKey() { return QStringLiteral("window/geometry"); }
 QString stateKey() { return QStringLiteral("window/state"); }
+QString entityLabelsKey() { return QStringLiteral("window/entityLabels"); }
 QString languageKey() { return QStringLiteral("language"); }
 
 } // namespace
@@ -40,6 +41,9 @@ void Settings::setWindow(const QByteArray &geometry, const QByteArray &state)
     settings.setValue(geometryKey(), geometry);
     settings.setValue(stateKey(), state);
 }
+
+bool Settings::showsEntityLabels() { return QSettings().value(entityLabelsKey()).toBool(); }
+void Settings::setShowsEntityLabels(bool on) { QSettings().setValue(entityLabelsKey(), on); }
 
 QString Settings::language() { return QSettings().value(languageKey()).toString(); }
 void Settings::setLanguage(const QString &code) { QSettings().setValue(languageKey(), code); }

@@ -19,6 +19,10 @@ public:
     static QByteArray windowState();
     static void setWindow(const QByteArray &geometry, const QByteArray &state);
 
+    /// Whether the tree of entities shows labels instead of names.
+    static bool showsEntityLabels();
+    static void setShowsEntityLabels(bool on);
+
     /// "en", "es", "fr" or "pt"; empty: the system's.
     static QString language();
     static void setLanguage(const QString &code);

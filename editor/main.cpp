@@ -56,10 +56,13 @@ int main(int argc, char **argv)
     tessel::editor::MainWindow window;
     const QStringList files = parser.positionalArguments();
     const auto begin = [&] {
-        if (files.isEmpty())
+        if (files.isEmpty()) {
             window.files().offerRecovery();
-        else if (window.files().openFile(files.first()) && parser.isSet(place))
+            return;
+        }
+        if (window.files().openFile(files.first()) && parser.isSet(place))
             window.goTo(parser.value(place));
+        window.files().lookForUnnamedWork();
     };
     window.show();
     if (parser.isSet(end)) {

@@ -2,16 +2,31 @@
 
 #include "business/models/DictionaryTreeModel.h"
 #include "editor/DictionaryDocument.h"
-#include "editor/EntityTreeProxy.h"
+#include "editor/NameOrLabelProxy.h"
 #include "editor/Question.h"
 #include "editor/RecordingDelegate.h"
 #include "editor/Structure.h"
 #include "model/TDmEntity.h"
+#include "util/Validate.h"
 
 #include <QTreeView>
 #include <QVBoxLayout>
 
 namespace tessel::editor {
+namespace {
+
+/// The model refuses two kinds of names without a word.
+QString silentFaultOf(const QString &name)
+{
+    Validate rules;
+    if (!rules.validateEmpty(name))
+        return EntityPane::tr("an entity needs a name");
+    return rules.validateName(name)
+        ? QString()
+        : EntityPane::tr("a name begins with a letter or _ and goes on with letters, digits and _");
+}
+
+} // namespace
 
 EntityPane::EntityPane(DictionaryDocument &editedDocument, QWidget *parent)
     : QWidget(parent)
@@ -26,15 +41,19 @@ EntityPane::EntityPane(DictionaryDocument &editedDocument, QWidget *parent)
     // Census trees are deep and the dock is narrow.
     tree->setIndentation(12);
     tree->setExpandsOnDoubleClick(false);
-    tree->setItemDelegate(new RecordingDelegate(
-        document,
-        [this](const QModelIndex &index) {
-            Scope scope;
-            if (TDmEntity *entity = proxy->nodeAt(index))
-                scope = Scope::ofEntity(*entity);
-            return scope;
-        },
-        [](const QModelIndex &index) { return tr("rename %1").arg(index.data().toString()); }, this));
+    auto *delegate = new RecordingDelegate(document,
+        {[this](const QModelIndex &index) {
+             Scope scope;
+             if (TDmEntity *entity = proxy->nodeAt(index))
+                 scope = Scope::ofEntity(*entity);
+             return scope;
+         },
+            [](const QModelIndex &index) { return tr("rename %1").arg(index.data(Qt::EditRole).toString()); },
+            [](const QModelIndex &, const QString &typed) { return silentFaultOf(typed); }},
+        this);
+    tree->setItemDelegate(delegate);
+    connect(delegate, &RecordingDelegate::refused, this, &EntityPane::told);
+    connect(delegate, &RecordingDelegate::notTaken, this, &EntityPane::warned);
     setFocusProxy(tree);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -75,6 +94,13 @@ void EntityPane::select(const TDmEntity *entity)
         tree->setCurrentIndex(index);
 }
 
+void EntityPane::showLabels(bool on)
+{
+    showsLabels = on;
+    proxy->setShowsLabels(on);
+    tree->viewport()->update();
+}
+
 void EntityPane::followEdit(const Touched &touched)
 {
     if (touched.isTree)
@@ -97,7 +123,8 @@ void EntityPane::rebuild()
     };
     forget();
     model = std::make_unique<DictionaryTreeModel>(nullptr, &document.root());
-    proxy = std::make_unique<EntityTreeProxy>(&document.root());
+    proxy = std::make_unique<NameOrLabelProxy>(&document.root());
+    proxy->setShowsLabels(showsLabels);
     proxy->setSourceModel(model.get());
     tree->setModel(proxy.get());
     connect(tree->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -14,10 +14,10 @@ class TDmEntity;
 namespace tessel::editor {
 
 class DictionaryDocument;
-class EntityTreeProxy;
+class NameOrLabelProxy;
 
-/// The dictionary's entities as a tree: renamed in place under the dictionary's rules, added, deleted and
-/// moved. What is expanded and chosen survives every edit.
+/// The dictionary's entities as a tree, shown by names or by labels: renamed in place under the dictionary's
+/// rules, added, deleted and moved. What is expanded and chosen survives every edit.
 class EntityPane : public QWidget {
     Q_OBJECT
 
@@ -37,8 +37,17 @@ public slots:
     void removeSelected();
     void moveSelected(int steps);
 
+    /// Shows the entities' labels instead of their names. What is typed is a name either way.
+    void showLabels(bool on);
+
 signals:
     void currentEntityChanged();
+
+    /// One sentence about what could not be done.
+    void told(const QString &sentence);
+
+    /// A sentence to stay until it is seen, and what there is to read besides.
+    void warned(const QString &sentence, const QString &details);
 
 private:
     void rebuild();
@@ -48,7 +57,8 @@ private:
     DictionaryDocument &document;
     QTreeView *tree;
     std::unique_ptr<DictionaryTreeModel> model;
-    std::unique_ptr<EntityTreeProxy> proxy;
+    std::unique_ptr<NameOrLabelProxy> proxy;
+    bool showsLabels = false;
 
     /// Remembered by entity: the view knows rows, and these have other entities once one is moved.
     QSet<const TDmEntity *> collapsed;

@@ -28,12 +28,15 @@ TablePane::TablePane(DictionaryDocument &document, QSortFilterProxyModel *proxyM
     : QWidget(parent)
     , editedDocument(document)
     , proxy(proxyModel)
-    , delegate(new RecordingDelegate(
-          document, [this](const QModelIndex &index) { return editScope(objectOf(*proxy, index)); },
-          [this](const QModelIndex &index) {
-              return editText(objectOf(*proxy, index),
-                  proxy->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
-          },
+    , delegate(new RecordingDelegate(document,
+          {[this](const QModelIndex &index) { return editScope(objectOf(*proxy, index)); },
+              [this](const QModelIndex &index) {
+                  return editText(objectOf(*proxy, index),
+                      proxy->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
+              },
+              [this](const QModelIndex &index, const QString &typed) {
+                  return silentFault(index.column(), typed);
+              }},
           this))
     , searchField(new SearchField(*proxyModel, purpose, this))
     , table(new TableView(this))
@@ -50,6 +53,8 @@ TablePane::TablePane(DictionaryDocument &document, QSortFilterProxyModel *proxyM
 
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         &TablePane::currentObjectChanged);
+    connect(delegate, &RecordingDelegate::refused, this, &TablePane::told);
+    connect(delegate, &RecordingDelegate::notTaken, this, &TablePane::warned);
     connect(&document, &DictionaryDocument::changed, this, &TablePane::followEdit);
     connect(&document, &DictionaryDocument::aboutToReset, this, &TablePane::forget);
 }
@@ -109,6 +114,8 @@ void TablePane::choose(const QModelIndex &index)
     table->selectionModel()->setCurrentIndex(
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
+
+QString TablePane::silentFault(int, const QString &) const { return QString(); }
 
 void TablePane::followEdit(const Touched &touched)
 {

@@ -51,6 +51,9 @@ signals:
     /// One sentence about what was done, or could not be.
     void told(const QString &sentence);
 
+    /// A sentence to stay until it is seen, and what there is to read besides.
+    void warned(const QString &sentence, const QString &details);
+
     /// Another row is current now, or none.
     void currentObjectChanged();
 
@@ -65,6 +68,10 @@ protected:
     /// What an edit of a cell may change, and what it is called.
     virtual Scope editScope(void *object) const = 0;
     virtual QString editText(void *object, const QString &column) const = 0;
+
+    /// Why the model refuses \a typed in \a column without a word; empty for what it takes, and for what it
+    /// refuses with a box.
+    virtual QString silentFault(int column, const QString &typed) const;
 
     /// Whether \a touched changes what is shown here.
     virtual bool concerns(const Touched &touched) const = 0;

@@ -6,6 +6,7 @@
 #include "editor/Edit.h"
 #include "editor/Question.h"
 #include "editor/Structure.h"
+#include "editor/views/FieldDrop.h"
 #include "editor/views/TableView.h"
 #include "model/MetadataVariables.h"
 #include "model/TDmEntity.h"
@@ -70,6 +71,15 @@ QString VariablePane::editText(void *object, const QString &column) const
     return isName ? tr("rename %1").arg(name) : tr("change %1 of %2").arg(column, name);
 }
 
+QString VariablePane::silentFault(int column, const QString &typed) const
+{
+    constexpr int tag = 4;
+    bool isNumber = column != tag;
+    if (!isNumber)
+        typed.toInt(&isNumber);
+    return isNumber ? QString() : tr("a tag is a whole number");
+}
+
 bool VariablePane::concerns(const Touched &touched) const
 {
     if (!shown)
@@ -127,7 +137,9 @@ void VariablePane::take(const QMimeData *fields)
     Edit edit(document(), Scope::ofEntity(*shown));
     // A model of its own: the table's is made anew when the edit is announced.
     VariableDiccionaryModel target(nullptr, shown, &document().root());
-    target.dropMimeData(fields, Qt::CopyAction, -1, -1, QModelIndex());
+    const FieldDrop drop(*fields, *shown, target);
+    if (drop.rest())
+        target.dropMimeData(drop.rest(), Qt::CopyAction, -1, -1, QModelIndex());
     const QList<TDmVariable *> &variables = *shown->getVariables();
     for (TDmVariable *variable : variables)
         variable->setLevel(1);
@@ -135,6 +147,14 @@ void VariablePane::take(const QMimeData *fields)
     QList<TDmVariable *> added;
     std::copy_if(variables.cbegin(), variables.cend(), std::back_inserter(added),
         [&before](TDmVariable *variable) { return !before.contains(variable); });
+    if (!drop.refused().isEmpty()) {
+        emit warned(
+            tr("%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another "
+               "entity.",
+                nullptr, drop.refused().size())
+                .arg(shown->getName()),
+            drop.refused().join(QLatin1Char('\n')));
+    }
     if (!edit.commit(tr("add fields to %1").arg(shown->getName()))) {
         emit told(tr("No field was added."));
         return;

@@ -35,6 +35,7 @@ protected:
     QAbstractItemModel *newModel() override;
     Scope editScope(void *object) const override;
     QString editText(void *object, const QString &column) const override;
+    QString silentFault(int column, const QString &typed) const override;
     bool concerns(const Touched &touched) const override;
     void *addObject(int row) override;
     void removeObjects(const QList<void *> &objects) override;

@@ -36,6 +36,20 @@ struct Tree {
     EntityPane pane{document};
 };
 
+/// How often a widget was painted.
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
+
 const QStringList kAll = {"DICTIONARY", ".HOUSE", "..PERSON", ".PLOT"};
 
 } // namespace
@@ -283,6 +297,41 @@ private slots:
         QCOMPARE(told.count(), 1);
         tree.pane.removeSelected();
         QVERIFY(told.count() > 1);
+    }
+
+    void labelsAreShownAndNamesAreTyped()
+    {
+        Tree tree;
+        tree.pane.showLabels(true);
+        QCOMPARE(treeOf(tree.view()), QStringList({"DICTIONARY", ".House", "..PERSON", ".PLOT"}));
+        tree.choose("HOUSE");
+        tree.press(Qt::Key_F2);
+        QCOMPARE(tree.view().viewport()->findChild<QLineEdit *>()->text(), QString("HOUSE"));
+        type(tree.view(), "HOME");
+        QCOMPARE(tree.document.undoStack()->undoText(), QString("rename HOUSE"));
+        QCOMPARE(entityIn(tree.document, "HOME").getLabel(), QString("House"));
+        // A tree that is made anew shows what it showed.
+        tree.choose("PLOT");
+        tree.pane.moveSelected(-1);
+        QCOMPARE(treeOf(tree.view()), QStringList({"DICTIONARY", ".PLOT", ".House", "..PERSON"}));
+        tree.pane.showLabels(false);
+        QCOMPARE(treeOf(tree.view()), QStringList({"DICTIONARY", ".PLOT", ".HOME", "..PERSON"}));
+        QCOMPARE(tree.chosen(), QString("PLOT"));
+    }
+
+    void labelsArePaintedAtOnce()
+    {
+        Tree tree;
+        PaintCounter paints(*tree.view().viewport());
+        QSignalSpy told(&tree.pane, &EntityPane::currentEntityChanged);
+        for (const bool on : {true, false}) {
+            // What is to be painted anyway comes first.
+            QCoreApplication::processEvents();
+            paints.count = 0;
+            tree.pane.showLabels(on);
+            QTRY_COMPARE(paints.count, 1);
+        }
+        QCOMPARE(told.count(), 0);
     }
 
     void anotherEntitysRenamingIsSeen()

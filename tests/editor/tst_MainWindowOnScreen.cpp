@@ -1,11 +1,14 @@
 #include "business/models/CsvPropertiesModel.h"
-#include "editor/AutoSave.h"
 #include "editor/DictionaryDocument.h"
 #include "editor/FileHandling.h"
 #include "editor/MainWindow.h"
 #include "editor/views/TableView.h"
 #include "model/TDmSourceField.h"
+#include "tests/editor/Answer.h"
 #include "tests/editor/EditorFixtures.h"
+#include "tests/editor/Files.h"
+#include "tests/editor/Hand.h"
+#include "tests/editor/ShownWindow.h"
 #include "tests/support/PointerRobot.h"
 
 #include <QAction>
@@ -18,12 +21,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
-#include <QSettings>
-#include <QStandardPaths>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -31,89 +30,11 @@
 #include <QtTest>
 
 #include <cmath>
-#include <functional>
 
 using namespace tessel::editor;
 using namespace tessel::test;
 
 namespace {
-
-/// Someone at the display. What is done arrives with the next events; tests wait for what comes of it.
-class Hand {
-public:
-    static void click(const QWidget &widget, const QPoint &place)
-    {
-        const QPoint point = widget.mapToGlobal(place);
-        run({"mousemove", QString::number(point.x()), QString::number(point.y()), "click", "1"});
-    }
-    static void click(const QWidget &widget) { click(widget, widget.rect().center()); }
-    static void click(const QAbstractItemView &view, const QModelIndex &index)
-    {
-        click(*view.viewport(), view.visualRect(index).center());
-    }
-    static void press(const QString &key) { run({"key", "--clearmodifiers", key}); }
-    static void type(const QString &text) { run({"type", "--delay", "2", text}); }
-
-private:
-    static void run(const QStringList &arguments)
-    {
-        QProcess tool;
-        tool.start("xdotool", arguments);
-        while (tool.state() != QProcess::NotRunning)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-        if (tool.exitCode() != 0)
-            qFatal("xdotool %s", qPrintable(arguments.join(' ')));
-    }
-};
-
-/// Answers the next box as soon as it is there to be typed into: it has an event loop of its own.
-class Answer : public QObject {
-public:
-    explicit Answer(std::function<void(QDialog &)> whatToDo)
-        : act(std::move(whatToDo))
-    {
-        qApp->installEventFilter(this);
-    }
-    ~Answer() override { qApp->removeEventFilter(this); }
-    bool isGiven() const { return given; }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        auto *dialog = qobject_cast<QDialog *>(watched);
-        if (dialog && event->type() == QEvent::WindowActivate && !given) {
-            given = true;
-            QTimer::singleShot(0, dialog, [this, dialog] { act(*dialog); });
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    std::function<void(QDialog &)> act;
-    bool given = false;
-
-    Q_DISABLE_COPY_MOVE(Answer)
-};
-
-/// Clicks \a button of the box.
-std::function<void(QDialog &)> pressing(QMessageBox::StandardButton button)
-{
-    return [button](QDialog &box) { Hand::click(*qobject_cast<QMessageBox *>(&box)->button(button)); };
-}
-
-template<typename Widget = QWidget>
-Widget &part(MainWindow &window, const char *name)
-{
-    auto *widget = window.findChild<Widget *>(name);
-    if (!widget)
-        qFatal("no %s", name);
-    return *widget;
-}
-
-QByteArray contentOf(const QString &file)
-{
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("cannot be read");
-}
 
 QPalette darkPalette()
 {
@@ -141,8 +62,6 @@ double contrast(const QColor &colour, const QColor &ground)
     return qMax(one, other) / qMin(one, other);
 }
 
-const QString kPerson = "/entities/0/entities/0/entities/0/entities/0/entities/0/entities/0/entities/0";
-
 } // namespace
 
 class tst_MainWindowOnScreen : public QObject {
@@ -151,22 +70,10 @@ class tst_MainWindowOnScreen : public QObject {
 private slots:
     void initTestCase()
     {
-        QLoggingCategory::setFilterRules("default.debug=false");
-        QStandardPaths::setTestModeEnabled(true);
-        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QApplication::setStyle("fusion");
-        QApplication::setOrganizationName("Tessel");
-        QApplication::setApplicationName("tst_MainWindowOnScreen");
-        QVERIFY(folder.isValid());
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+        folder.use("tst_MainWindowOnScreen");
     }
-
-    void init()
-    {
-        QSettings().clear();
-        AutoSave::removeCopy(QString());
-    }
+    void init() { WindowFolder::forget(); }
 
     void aDayAtTheDisplay()
     {
@@ -326,7 +233,7 @@ private slots:
             };
             picture("start");
             window.findChild<QAction *>("sample")->trigger();
-            window.goTo(kPerson + "/variables/4");
+            window.goTo(personInSample() + "/variables/4");
             auto &details = part<QTabWidget>(window, "details");
             const char *const pages[] = {"labels", "ranges", "properties", "entity"};
             for (int page = 0; page < 4; ++page) {
@@ -361,7 +268,7 @@ private slots:
     }
 
 private:
-    QTemporaryDir folder;
+    WindowFolder folder;
 };
 
 QTEST_MAIN(tst_MainWindowOnScreen)
