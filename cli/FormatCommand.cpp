@@ -1,5 +1,6 @@
 #include "cli/FormatCommand.h"
 
+#include "cli/FileNames.h"
 #include "cli/Output.h"
 #include "cli/Program.h"
 #include "documents/DocumentFile.h"
@@ -21,16 +22,6 @@ namespace {
 QString tr(const char *text, int n = -1)
 {
     return QCoreApplication::translate("tessel::cli", text, nullptr, n);
-}
-
-bool isStandard(const QString &file) { return file == QLatin1String("-"); }
-
-void listLosses(const QString &file, const QVector<documents::Loss> &losses)
-{
-    for (const documents::Loss &loss : losses) {
-        const QString place = loss.place.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(loss.place);
-        printAbout(file, printable(loss.path + place + QLatin1String(": ") + loss.sentence()));
-    }
 }
 
 /// Prints how \a before differs from \a after, as diff(1) tells it, the tool that everyone's eyes are used
@@ -84,7 +75,7 @@ public:
         }
         after = documents::normalForm(*parsed.result);
         const QVector<documents::Loss> losses = documents::lossesOf(before, *parsed.result, after);
-        listLosses(file, losses);
+        printLosses(file, losses);
         const int status = options.check || options.diff ? compare() : write(losses.size());
         return losses.isEmpty() ? status : std::max<int>(status, Findings);
     }
@@ -111,9 +102,7 @@ private:
             printBytes(after);
             return Clean;
         }
-        const QString replaced = QFileInfo(file).canonicalFilePath();
-        const bool replacesInput =
-            !isStandard(file) && !replaced.isEmpty() && QFileInfo(target).canonicalFilePath() == replaced;
+        const bool replacesInput = isSameFile(file, target);
         if (replacesInput && losses > 0 && !options.force) {
             printAbout(file,
                 (losses == 1 ? tr(

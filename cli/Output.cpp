@@ -23,6 +23,11 @@ void write(FILE *to, const QByteArray &bytes)
 /// What a terminal acts upon instead of showing it.
 bool isControl(QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0x9f); }
 
+QString pathAndPlace(const QString &path, const QString &place)
+{
+    return path + (place.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(place)) + QLatin1String(": ");
+}
+
 } // namespace
 
 void print(const QString &text) { write(stdout, text.toUtf8()); }
@@ -47,9 +52,8 @@ void printProblem(const QString &file, const documents::FileProblem &problem)
     QByteArray place;
     if (problem.line > 0)
         place = ':' + QByteArray::number(problem.line) + ':' + QByteArray::number(problem.column);
-    // System texts came in by the same codec as the name and leave by it: their bytes are the locale's own.
-    const bool onlyBytes = problem.message.toLatin1() == problem.message;
-    const QByteArray message = onlyBytes ? problem.message.toLatin1() : problem.message.toUtf8();
+    // System texts came in by the same codec as the name: as the locale's own bytes.
+    const QByteArray message = printable(nameText(problem.message)).toUtf8();
     write(stderr, shownName(file).toLatin1() + place + ": " + message + '\n');
 }
 
@@ -58,12 +62,28 @@ void printAbout(const QString &file, const QString &message)
     write(stderr, shownName(file).toLatin1() + ": " + message.toUtf8() + '\n');
 }
 
+void printLosses(const QString &file, const QVector<documents::Loss> &losses)
+{
+    for (const documents::Loss &loss : losses)
+        printAbout(file, printable(pathAndPlace(loss.path, loss.place) + loss.sentence()));
+}
+
+QString findingText(const documents::Finding &finding)
+{
+    return pathAndPlace(finding.path, finding.place) + finding.message
+        + QStringLiteral(" [%1]").arg(finding.code);
+}
+
 void printFinding(const QString &file, const documents::Finding &finding)
 {
-    const QString place = finding.place.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.place);
-    const QString text = finding.path + place + QLatin1String(": ") + finding.message;
-    write(stdout,
-        shownName(file).toLatin1() + ": " + printable(text).toUtf8() + " [" + finding.code.toUtf8() + "]\n");
+    write(stdout, shownName(file).toLatin1() + ": " + printable(findingText(finding)).toUtf8() + '\n');
+}
+
+QString nameText(const QString &bytes)
+{
+    const QByteArray raw = bytes.toLatin1();
+    const QString text = QString::fromUtf8(raw.constData(), raw.size());
+    return QString::fromLatin1(raw) == bytes && text.toUtf8() == raw ? text : bytes;
 }
 
 QString shownName(const QString &file)
@@ -73,15 +93,13 @@ QString shownName(const QString &file)
     if (file == QLatin1String("-"))
         return QStringLiteral("standard input");
     // A terminal reads UTF-8 where the bytes are UTF-8, and control characters in it, whatever the locale is.
-    const QByteArray bytes = file.toLatin1();
-    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
-    const bool isUtf8 = text.toUtf8() == bytes;
-    QString shown = isUtf8 ? text : file;
+    const QString text = nameText(file);
+    QString shown = text;
     for (QChar &c : shown) {
         if (isControl(c))
             c = QLatin1Char('?');
     }
-    return isUtf8 ? QString::fromLatin1(shown.toUtf8()) : shown;
+    return text == file ? shown : QString::fromLatin1(shown.toUtf8());
 }
 
 QString printable(const QString &text)

@@ -2,6 +2,7 @@
 
 #include "documents/DocumentFile.h"
 #include "documents/Findings.h"
+#include "documents/Losses.h"
 
 #include <QByteArray>
 #include <QString>
@@ -30,6 +31,16 @@ void printAbout(const QString &file, const QString &message);
 /// \a file as messages name it: "standard input" for "-"; its bytes as Latin-1, "?" for what a
 /// terminal would act upon.
 QString shownName(const QString &file);
+
+/// \a bytes, a file's name or a system's message that came in as Latin-1, as the text that they are: UTF-8
+/// where they can be that. A text with other characters than bytes is given back as it is.
+QString nameText(const QString &bytes);
+
+/// Writes "FILE: PATH (PLACE): what becomes of the value" to standard error for each of \a losses.
+void printLosses(const QString &file, const QVector<documents::Loss> &losses);
+
+/// "PATH (PLACE): message [code]".
+QString findingText(const documents::Finding &finding);
 
 /// Writes "FILE: PATH (PLACE): message [code]" to standard output, the file's name in its own bytes.
 void printFinding(const QString &file, const documents::Finding &finding);

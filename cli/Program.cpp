@@ -39,15 +39,78 @@ QStringList fileNames(const std::vector<std::string> &names)
     return list;
 }
 
+/// What from-data takes, as the parser keeps it.
+struct FromDataTexts {
+    std::vector<std::string> files;
+    std::string entity;
+    std::string into;
+    std::string onConflict = "error";
+    std::string encoding;
+    std::string records;
+    std::string output = "-";
+};
+
+/// The options of from-data, as they were given to \a verb.
+FromDataOptions fromDataOptions(const CLI::App &verb, const FromDataTexts &texts)
+{
+    FromDataOptions options;
+    if (verb.count("--entity") > 0)
+        options.entity = QString::fromStdString(texts.entity);
+    if (verb.count("--into") > 0)
+        options.into = fileName(texts.into);
+    if (verb.count("--categories-from-data") > 0)
+        options.records = QString::fromStdString(texts.records);
+    options.encoding = QString::fromStdString(texts.encoding);
+    options.output = fileName(texts.output);
+    if (texts.onConflict == "skip")
+        options.onConflict = FromDataOptions::OnConflict::Skip;
+    else if (texts.onConflict == "overwrite")
+        options.onConflict = FromDataOptions::OnConflict::Overwrite;
+    return options;
+}
+
 void addExitStatus(CLI::App &verb)
 {
     verb.footer("Exit status: 0 nothing to report; 1 findings, differences or would-change; 2 wrong usage, "
                 "unreadable or unparsable input, unwritable output.");
 }
 
+CLI::App *addFromData(CLI::App &app, FromDataTexts &texts)
+{
+    CLI::App *verb = app.add_subcommand("from-data",
+        "Make a dictionary of the fields of data files, or extend one; what the files say and the dictionary "
+        "does not hold is listed on standard error");
+    verb->add_option(
+            "FILE", texts.files, "CSV files and data files of statistical packages; each becomes an entity")
+        ->required();
+    verb->add_option("--entity", texts.entity,
+            "The entity that gets the variables of all files; without it each file has one that is named "
+            "like "
+            "it")
+        ->type_name("NAME");
+    verb->add_option("--into", texts.into,
+            "Extend this dictionary: entities are found by name or added at the top; - is standard input")
+        ->type_name("DICT");
+    verb->add_option("--on-conflict", texts.onConflict,
+            "A field whose variable's name is there already: error lists all and writes nothing, skip leaves "
+            "the field out, overwrite puts it in the other's place")
+        ->check(CLI::IsMember({"skip", "overwrite", "error"}))
+        ->capture_default_str();
+    verb->add_option(
+            "--encoding", texts.encoding, "The encoding of the files' texts, for example windows-1252")
+        ->type_name("E");
+    verb->add_option("--categories-from-data", texts.records,
+            "Look at this many records for the categories and ranges that a file does not declare")
+        ->type_name("N");
+    verb->add_option("-o,--output", texts.output, "Write to this file; - is standard output, the default")
+        ->type_name("OUT");
+    addExitStatus(*verb);
+    return verb;
+}
+
 } // namespace
 
-int run(int argc, char **argv)
+int run(int argc, char **argv, const ReadSource &read)
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
     QCoreApplication application(argc, argv);
@@ -104,6 +167,9 @@ int run(int argc, char **argv)
     format->add_flag("--force", options.force, "Replace a file even when something is lost or changed");
     addExitStatus(*format);
 
+    FromDataTexts texts;
+    const CLI::App *data = addFromData(app, texts);
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &problem) {
@@ -128,6 +194,8 @@ int run(int argc, char **argv)
         status = showDocument(fileName(file), QString::fromStdString(path), form == "json");
     } else if (check->parsed()) {
         status = checkDocuments(fileNames(files), form == "json");
+    } else if (data->parsed()) {
+        status = fromData(fileNames(texts.files), fromDataOptions(*data, texts), read);
     } else {
         options.output = out->count() > 0 ? fileName(output) : QStringLiteral("-");
         status = formatDocuments(fileNames(files), options);

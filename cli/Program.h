@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/FromDataCommand.h"
+
 /// The command line: the dictionary libraries without a display.
 namespace tessel::cli {
 
@@ -11,7 +13,7 @@ enum ExitStatus {
 };
 
 /// Runs the program \a argv and returns an ExitStatus. Results go to standard output, messages to standard
-/// error.
-int run(int argc, char **argv);
+/// error. Data files are read by \a read.
+int run(int argc, char **argv, const ReadSource &read = sources::readSource);
 
 } // namespace tessel::cli

@@ -103,6 +103,12 @@ QByteArray dictionaryText(TDmEntity &root)
     return QJsonDocument(out).toJson(QJsonDocument::Indented);
 }
 
+QByteArray settledText(TDmEntity &root)
+{
+    const QByteArray text = dictionaryText(root);
+    return isSettled(root) ? text : dictionaryText(*readDictionary(QJsonDocument::fromJson(text).object()));
+}
+
 QByteArray runText(Config &config)
 {
     return RunCreationBusiness().exportConfigToJson(&config).toJson(QJsonDocument::Indented);
@@ -112,9 +118,7 @@ QByteArray normalForm(const QJsonObject &document)
 {
     if (kindOf(document) == DocumentKind::Run)
         return runText(*readRun(document));
-    const std::unique_ptr<TDmEntity> root = readDictionary(document);
-    const QByteArray text = dictionaryText(*root);
-    return isSettled(*root) ? text : dictionaryText(*readDictionary(QJsonDocument::fromJson(text).object()));
+    return settledText(*readDictionary(document));
 }
 
 } // namespace tessel::documents

@@ -28,6 +28,10 @@ std::unique_ptr<Config> readRun(const QJsonObject &document);
 /// the end.
 QByteArray dictionaryText(TDmEntity &root);
 
+/// As above, and reading and writing the text again does not change it any more: codes without a type get the
+/// form of the type that is written.
+QByteArray settledText(TDmEntity &root);
+
 /// \a config as a document in normal form.
 QByteArray runText(Config &config);
 

@@ -1,5 +1,7 @@
 #include "tests/cli/Tessel.h"
 
+#include "tests/documents/Privileges.h"
+
 #include <QDir>
 #include <QtTest>
 
@@ -100,6 +102,8 @@ Told Tessel::run(const QList<QByteArray> &arguments) const
             const rlimit limit{rlim_t(largestFile), rlim_t(largestFile)};
             ::setrlimit(RLIMIT_FSIZE, &limit);
         }
+        if (isNobodys && !giveUpPrivileges())
+            ::_exit(127);
         ::alarm(60);
         ::execv(TESSEL_PROGRAM, list.data());
         ::_exit(127);

@@ -12,6 +12,13 @@ class KnownVariables {
 public:
     explicit KnownVariables(int expected) { entries.reserve(expected); }
 
+    /// Whether \a left and \a right are the same.
+    static bool isSame(const TDmVariable &left, const TDmVariable &right)
+    {
+        return left.getName() == right.getName() && left.getAlias() == right.getAlias()
+            && left.getLabel() == right.getLabel() && left.getGroup() == right.getGroup();
+    }
+
     /// Adds \a variable behind those that are known.
     void append(TDmVariable *variable) { entries.insert(fingerprintOf(*variable), {variable, next++}); }
 
@@ -43,12 +50,6 @@ private:
         seed = qHash(variable.getAlias(), seed);
         seed = qHash(variable.getLabel(), seed);
         return qHash(variable.getGroup(), seed);
-    }
-
-    static bool isSame(const TDmVariable &left, const TDmVariable &right)
-    {
-        return left.getName() == right.getName() && left.getAlias() == right.getAlias()
-            && left.getLabel() == right.getLabel() && left.getGroup() == right.getGroup();
     }
 
     Entries::const_iterator entryOf(const TDmVariable &variable) const
