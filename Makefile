@@ -1,5 +1,5 @@
 # Thin calls of presets and scripts. "make run" and "make test" are all that a newcomer needs.
-.PHONY: run test asan bench check coverage format fuzz icons mutate pictures translations clean
+.PHONY: run test asan bench check coverage format fuzz fuzz-corpus icons mutate pictures translations clean
 
 SECONDS ?= 60
 
@@ -53,12 +53,15 @@ translations:
 	scripts/install-packages build
 	scripts/update-translations
 
-# Runs the fuzz target for SECONDS seconds, beginning with the samples.
+# Runs each fuzz target for SECONDS seconds; TARGETS names some of them.
 fuzz:
 	scripts/install-packages fuzz
-	scripts/build fuzz
-	mkdir -p build/fuzz/corpus
-	LSAN_OPTIONS=suppressions=fuzz/lsan.supp:print_suppressions=0 build/fuzz/fuzz/fuzz_document -artifact_prefix=build/fuzz/ -max_total_time=$(SECONDS) -timeout=10 build/fuzz/corpus samples
+	scripts/fuzz $(SECONDS) $(TARGETS)
+
+# The quick run over the seeds that belongs to every change.
+fuzz-corpus:
+	scripts/install-packages fuzz
+	scripts/fuzz --corpus $(TARGETS)
 
 clean:
 	rm -rf build

@@ -111,6 +111,26 @@ int takeVariable(int, readstat_variable_t *variable, const char *labelSet, void 
     return READSTAT_HANDLER_OK;
 }
 
+/// How many bytes a Stata file of the format \a version keeps for the name of a label set.
+uint labelSetBytes(int version)
+{
+    constexpr uint old = 9;
+    constexpr uint middle = 33;
+    constexpr uint newest = 129;
+    if (version < 110)
+        return old;
+    return version < 118 ? middle : newest;
+}
+
+/// The library hands over the name of a label set where it stands in the file's own list, where nothing need
+/// end it.
+int takeStataVariable(int place, readstat_variable_t *variable, const char *labelSet, void *context)
+{
+    const uint size = qstrnlen(labelSet, labelSetBytes(contentOf(context).version));
+    const QByteArray name(labelSet, int(size));
+    return takeVariable(place, variable, name.constData(), context);
+}
+
 CodeLabel codeOf(const readstat_value_t &value, TextMends &mends)
 {
     CodeLabel code;
@@ -169,6 +189,8 @@ void ReadstatParse::leaveTextsAlone() { readstat_set_handler_character_encoding(
 readstat_error_t ReadstatParse::readContent(StatisticalFormat format, StatisticalContent &content)
 {
     setContentHandlers();
+    if (format == StatisticalFormat::Dta)
+        readstat_set_variable_handler(parser.get(), takeStataVariable);
     return parse(format, &content);
 }
 

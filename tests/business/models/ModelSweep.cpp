@@ -1,6 +1,7 @@
 #include "tests/business/models/ModelSweep.h"
 
 #include <QMimeData>
+#include <QSize>
 
 #include <array>
 #include <climits>
