@@ -49,6 +49,8 @@ private:
     quint64 pageCount = 0;
 };
 
+constexpr int kFirstStataWithTags = 117;
+
 /// Whether a Stata file that has tags (from format 117 on) has the last of them too.
 bool hasClosingTag(QFile &file)
 {
@@ -96,6 +98,8 @@ QString Completeness::faultOfCatalogue(QFile &file) { return hasAllPages(file) ?
 
 QString Completeness::faultOf(const StatisticalContent &content)
 {
+    if (content.version >= kFirstStataWithTags)
+        return QString();
     for (const StatisticalVariable &variable : content.variables) {
         if (!variable.labelSet.isEmpty() && !content.labelSets.contains(variable.labelSet))
             return tr("does not hold the value labels \"%1\" of the variable %2: it was cut off or saved "

@@ -22,7 +22,7 @@ public:
     static QString faultOfCatalogue(QFile &file);
 
     /// What is missing in \a content of a Stata file: a label set that a variable names; empty when nothing
-    /// is.
+    /// is, and from format 117 on: such a file ends with a tag, so that the set was never in it.
     static QString faultOf(const StatisticalContent &content);
 
 private:

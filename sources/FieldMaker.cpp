@@ -105,6 +105,8 @@ std::unique_ptr<TDmSourceField> FieldMaker::make(int place, const ValueTally *ta
         note(tr("texts of more than %1 characters were cut there").arg(kMostTextCharacters));
     if (!variable.labelsNotFound.isEmpty())
         note(tr("the value labels of the format %1 are not in the catalogue").arg(variable.labelsNotFound));
+    if (!variable.labelSet.isEmpty() && !source.labelSets.contains(variable.labelSet))
+        note(tr("the value labels \"%1\" are not in the file").arg(variable.labelSet));
     hasForeign = hasForeign || variable.mends.isForeign || set.mends.isForeign;
     setType(variable, set.labels, tally);
     setSize(variable, tally);
