@@ -12,37 +12,6 @@
     </message>
 </context>
 <context>
-    <name>tessel::editor::CsvHeader</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 and %n more</numerusform>
-            <numerusform>%1 and %n more</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have no name and are called %1.</source>
-        <translation>
-            <numerusform>%n field has no name and is called %1.</numerusform>
-            <numerusform>%n fields have no name and are called %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have the name %1.</source>
-        <translation>
-            <numerusform>%n field has the name %1.</numerusform>
-            <numerusform>%n fields have the name %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n names belong to more than one field: %1.</source>
-        <translation>
-            <numerusform>%n name belongs to more than one field: %1.</numerusform>
-            <numerusform>%n names belong to more than one field: %1.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>tessel::editor::CsvSourceTab</name>
     <message numerus="yes">
         <source>%1: %n fields in %2.</source>
@@ -59,6 +28,30 @@
         <translation>
             <numerusform>%1: %n field.</numerusform>
             <numerusform>%1: %n fields.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n re&amp;marks…</source>
+        <translation>
+            <numerusform>%n re&amp;mark…</numerusform>
+            <numerusform>%n re&amp;marks…</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DeclaredCodesOffer</name>
+    <message numerus="yes">
+        <source>%n of the %1 new variables have missing or not-applicable codes declared in the file.</source>
+        <translation>
+            <numerusform>%n of the %1 new variables has missing or not-applicable codes declared in the file.</numerusform>
+            <numerusform>%n of the %1 new variables have missing or not-applicable codes declared in the file.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables have the declared codes now.</source>
+        <translation>
+            <numerusform>%n variable has the declared codes now.</numerusform>
+            <numerusform>%n variables have the declared codes now.</numerusform>
         </translation>
     </message>
 </context>
@@ -177,6 +170,13 @@
             <numerusform>%n variables added to %1.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another entity.</source>
+        <translation>
+            <numerusform>%n lookup was not added: %1 is not selectable. Mark it as selectable, or choose another entity.</numerusform>
+            <numerusform>%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another entity.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::WizardText</name>
@@ -192,6 +192,135 @@
         <translation>
             <numerusform>%n variable</numerusform>
             <numerusform>%n variables</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CategoriesText</name>
+    <message numerus="yes">
+        <source>%n empty codes are left out with their labels, because a category needs a code</source>
+        <translation>
+            <numerusform>%n empty code is left out with its label, because a category needs a code</numerusform>
+            <numerusform>%n empty codes are left out with their labels, because a category needs a code</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n codes are left out, because a category&apos;s code cannot hold a blank: %1</source>
+        <translation>
+            <numerusform>%n code is left out, because a category&apos;s code cannot hold a blank: %1</numerusform>
+            <numerusform>%n codes are left out, because a category&apos;s code cannot hold a blank: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>tabs and line ends in %n labels became blanks</source>
+        <translation>
+            <numerusform>tabs and line ends in %n label became blanks</numerusform>
+            <numerusform>tabs and line ends in %n labels became blanks</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvCells</name>
+    <message numerus="yes">
+        <source>%n cells are not in UTF-8 as others are; they were read as Windows-1252.</source>
+        <translation>
+            <numerusform>%n cell is not in UTF-8 as others are; it was read as Windows-1252.</numerusform>
+            <numerusform>%n cells are not in UTF-8 as others are; they were read as Windows-1252.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells hold what is no text in %1; choose another encoding if it matters.</source>
+        <translation>
+            <numerusform>%n cell holds what is no text in %1; choose another encoding if it matters.</numerusform>
+            <numerusform>%n cells hold what is no text in %1; choose another encoding if it matters.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumn</name>
+    <message numerus="yes">
+        <source>%n values hold blanks and are no categories: a code cannot hold them.</source>
+        <translation>
+            <numerusform>%n value holds blanks and is no category: a code cannot hold them.</numerusform>
+            <numerusform>%n values hold blanks and are no categories: a code cannot hold them.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumns</name>
+    <message numerus="yes">
+        <source>%n records have more or fewer cells than the header has fields, the first of them in line %1.</source>
+        <translation>
+            <numerusform>%n record has more or fewer cells than the header has fields; it is in line %1.</numerusform>
+            <numerusform>%n records have more or fewer cells than the header has fields, the first of them in line %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation>
+            <numerusform>%n field has no name and is called %1.</numerusform>
+            <numerusform>%n fields have no name and are called %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation>
+            <numerusform>%n field has the name %1.</numerusform>
+            <numerusform>%n fields have the name %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation>
+            <numerusform>%n name belongs to more than one field: %1.</numerusform>
+            <numerusform>%n names belong to more than one field: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::FieldMaker</name>
+    <message numerus="yes">
+        <source>%n missing codes are left out with their labels, because a category&apos;s code is a number or a text: %1</source>
+        <translation>
+            <numerusform>%n missing code is left out with its label, because a category&apos;s code is a number or a text: %1</numerusform>
+            <numerusform>%n missing codes are left out with their labels, because a category&apos;s code is a number or a text: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::MissingCodes</name>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries whole numbers: %1</source>
+        <translation>
+            <numerusform>%n missing code is left out, because a field carries whole numbers: %1</numerusform>
+            <numerusform>%n missing codes are left out, because a field carries whole numbers: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries two: %1</source>
+        <translation>
+            <numerusform>%n missing code is left out, because a field carries two: %1</numerusform>
+            <numerusform>%n missing codes are left out, because a field carries two: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SasCatalogue</name>
+    <message numerus="yes">
+        <source>The value labels of %n formats stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</source>
+        <translation>
+            <numerusform>The value labels of %n format stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</numerusform>
+            <numerusform>The value labels of %n formats stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</numerusform>
         </translation>
     </message>
 </context>

@@ -533,81 +533,6 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     </message>
 </context>
 <context>
-    <name>tessel::editor::CsvHeader</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 y %n más</numerusform>
-            <numerusform>%1 y %n más</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>1 field has no name and is called %1.</source>
-        <translation>1 campo no tiene nombre y se llama %1.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have no name and are called %1.</source>
-        <translation>
-            <numerusform>%n campo no tiene nombre y se llama %1.</numerusform>
-            <numerusform>%n campos no tienen nombre y se llaman %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have the name %1.</source>
-        <translation>
-            <numerusform>%n campo lleva el nombre %1.</numerusform>
-            <numerusform>%n campos llevan el nombre %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n names belong to more than one field: %1.</source>
-        <translation>
-            <numerusform>%n nombre corresponde a más de un campo: %1.</numerusform>
-            <numerusform>%n nombres corresponden a más de un campo: %1.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation>no es un archivo de texto: contiene bytes nulos; se esperaba un archivo CSV en UTF-8, en UTF-16 con marca de orden de bytes o en Windows-1252</translation>
-    </message>
-    <message>
-        <source>is empty; expected the names of fields in its first line</source>
-        <translation>está vacío; se esperaban los nombres de los campos en la primera línea</translation>
-    </message>
-    <message>
-        <source>ends in the middle of a character; it may have been cut off</source>
-        <translation>termina en medio de un carácter; puede estar truncado</translation>
-    </message>
-    <message>
-        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation>tiene en el campo %1 de su encabezado unas comillas que no se cierran; ciérrelas en el archivo o elija otro separador</translation>
-    </message>
-    <message>
-        <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation>tiene más de %1 campos en la primera línea; se esperaban menos</translation>
-    </message>
-    <message>
-        <source>The names stand in line %1, below empty lines.</source>
-        <translation>Los nombres están en la línea %1, debajo de líneas vacías.</translation>
-    </message>
-    <message>
-        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation>El archivo está marcado como UTF-8 pero contiene otros bytes; se leyó como Windows-1252.</translation>
-    </message>
-    <message>
-        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation>no tiene el final del encabezado en los primeros %1 MiB; cierre las comillas o elija otro archivo</translation>
-    </message>
-    <message>
-        <source>cannot be read: it is a folder; choose a file</source>
-        <translation>no se puede leer: es una carpeta; elija un archivo</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>no se puede leer: %1</translation>
-    </message>
-</context>
-<context>
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
@@ -785,12 +710,166 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
             <numerusform>%1: %n campos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Ra&amp;nges from data</source>
+        <translation>E&amp;xtraer rangos</translation>
+    </message>
+    <message>
+        <source>Open a dataset</source>
+        <translation>Abrir un conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Datasets (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;SAS catalogues of labels (*.sas7bcat);;All files (*)</source>
+        <translation>Conjuntos de datos (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;Catálogos de etiquetas de SAS (*.sas7bcat);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>En&amp;coding:</source>
+        <translation>&amp;Codificación:</translation>
+    </message>
+    <message>
+        <source> records</source>
+        <translation> registros</translation>
+    </message>
+    <message>
+        <source>How many records are looked at for ranges and categories</source>
+        <translation>Cuántos registros se examinan para obtener rangos y categorías</translation>
+    </message>
+    <message>
+        <source>How many records are looked at, from the first.</source>
+        <translation>Cuántos registros se examinan, a partir del primero.</translation>
+    </message>
+    <message>
+        <source>Find ranges and categories in the records of the dataset</source>
+        <translation>Buscar rangos y categorías en los registros del conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Reads the first records: numbers get the range of their values, and fields without categories get those that are found.</source>
+        <translation>Lee los primeros registros: los números reciben el rango de sus valores y los campos sin categorías reciben las que se encuentren.</translation>
+    </message>
+    <message>
+        <source>Lists what the file says and the fields do not carry.</source>
+        <translation>Muestra lo que indica el archivo y los campos no recogen.</translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset</source>
+        <translation>Observaciones sobre el conjunto de datos</translation>
+    </message>
+    <message>
+        <source>%1: holds labels and no fields; open the .sas7bdat file that they belong to first</source>
+        <translation>%1: contiene etiquetas y ningún campo; abra primero el archivo .sas7bdat al que pertenecen</translation>
+    </message>
+    <message>
+        <source>%1 (see the box &quot;Encoding&quot;)</source>
+        <translation>%1 (vea el cuadro «Codificación»)</translation>
+    </message>
+    <message>
+        <source>Records: %L1.</source>
+        <translation>Registros: %L1.</translation>
+    </message>
+    <message>
+        <source>Encoding: %1.</source>
+        <translation>Codificación: %1.</translation>
+    </message>
+    <message>
+        <source>Format: %1.</source>
+        <translation>Formato: %1.</translation>
+    </message>
+    <message>
+        <source>Labels: %1.</source>
+        <translation>Etiquetas: %1.</translation>
+    </message>
+    <message>
+        <source>Records looked at: %L1.</source>
+        <translation>Registros examinados: %L1.</translation>
+    </message>
+    <message>
+        <source>Title: %1.</source>
+        <translation>Título: %1.</translation>
+    </message>
+    <message>
+        <source>1 re&amp;mark…</source>
+        <translation>1 &amp;observación…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n re&amp;marks…</source>
+        <translation>
+            <numerusform>%n &amp;observación…</numerusform>
+            <numerusform>%n &amp;observaciones…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset: %1</source>
+        <translation>Observaciones sobre el conjunto de datos: %1</translation>
+    </message>
+    <message>
+        <source>Remarks on %1</source>
+        <translation>Observaciones sobre %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DeclaredCodesOffer</name>
+    <message>
+        <source>&amp;Set them</source>
+        <translation>&amp;Usarlos</translation>
+    </message>
+    <message>
+        <source>&amp;Leave</source>
+        <translation>De&amp;jar así</translation>
+    </message>
+    <message>
+        <source>%1: missing code %2 instead of %3.</source>
+        <translation>%1: código de omitido %2 en lugar de %3.</translation>
+    </message>
+    <message>
+        <source>%1: not-applicable code %2 instead of %3.</source>
+        <translation>%1: código de no aplica %2 en lugar de %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the %1 new variables have missing or not-applicable codes declared in the file.</source>
+        <translation>
+            <numerusform>%n de las %1 variables nuevas tiene códigos de omitido o de no aplica declarados en el archivo.</numerusform>
+            <numerusform>%n de las %1 variables nuevas tienen códigos de omitido o de no aplica declarados en el archivo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>set declared codes</source>
+        <translation>asignación de códigos declarados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables have the declared codes now.</source>
+        <translation>
+            <numerusform>%n variable tiene ahora los códigos declarados.</numerusform>
+            <numerusform>%n variables tienen ahora los códigos declarados.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DetailsDialog</name>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::DictionaryDocument</name>
     <message>
         <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
         <translation>es una configuración de proceso, no un diccionario; ábrala con Proceso, Abrir proceso</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EncodingBox</name>
+    <message>
+        <source>The encoding of the texts in the file; a choice, or a name and Return, reads it again.</source>
+        <translation>La codificación de los textos del archivo; al elegir otra, o al escribir un nombre y presionar Enter, el archivo se vuelve a leer.</translation>
+    </message>
+    <message>
+        <source>Encoding of the dataset</source>
+        <translation>Codificación del conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
     </message>
 </context>
 <context>
@@ -876,6 +955,14 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>%1 goes with its variables and all entities below it. Delete?</source>
         <translation>%1 se elimina con sus variables y con todas las entidades que están por debajo. ¿Eliminar?</translation>
+    </message>
+    <message>
+        <source>an entity needs a name</source>
+        <translation>una entidad necesita un nombre</translation>
+    </message>
+    <message>
+        <source>a name begins with a letter or _ and goes on with letters, digits and _</source>
+        <translation>un nombre comienza con una letra o _ y sigue con letras, dígitos y _</translation>
     </message>
 </context>
 <context>
@@ -1534,8 +1621,12 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>E&amp;ntidad</translation>
     </message>
     <message>
-        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
-        <translation>Todavía no es posible leer archivos de este tipo; abra un archivo CSV o una lista de tablas de referencia.</translation>
+        <source>Labels in the &amp;tree</source>
+        <translation>Eti&amp;quetas en el árbol</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
     </message>
 </context>
 <context>
@@ -1719,6 +1810,59 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>change %1 of %2</source>
         <translation>cambio de «%1» en %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ReadingProgress</name>
+    <message>
+        <source>Reading the records of %1…</source>
+        <translation>Leyendo los registros de %1…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecordingDelegate</name>
+    <message>
+        <source>a whole number from %1 to %2 is expected</source>
+        <translation>se espera un número entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>a number such as 12 or -0.5 is expected</source>
+        <translation>se espera un número como 12 o -0.5</translation>
+    </message>
+    <message>
+        <source>the rules of the dictionary do not allow it</source>
+        <translation>las reglas del diccionario no lo permiten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken: %2. Correct it, or press Esc to give it up.</source>
+        <translation>No se aceptó «%1»: %2. Corríjalo o presione Esc para descartarlo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken (%2): %3. It can be copied from here.</source>
+        <translation>No se aceptó «%1» (%2): %3. Se puede copiar desde aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecoveryBar</name>
+    <message>
+        <source>Open &amp;it</source>
+        <translation>Abr&amp;irlo</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>&amp;Más tarde</translation>
+    </message>
+    <message>
+        <source>An earlier session ended without saving a dictionary that has no file yet.</source>
+        <translation>Una sesión anterior terminó sin guardar un diccionario que aún no tiene archivo.</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2325,17 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <source>rename %1</source>
         <translation>cambio de nombre de %1</translation>
     </message>
+    <message>
+        <source>a tag is a whole number</source>
+        <translation>un Tag es un número entero</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another entity.</source>
+        <translation>
+            <numerusform>No se agregó %n tabla de referencia: %1 no es seleccionable. Márquela como seleccionable o elija otra entidad.</numerusform>
+            <numerusform>No se agregaron %n tablas de referencia: %1 no es seleccionable. Márquela como seleccionable o elija otra entidad.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::VariablesPage</name>
@@ -2292,6 +2447,471 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources</name>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>no se puede leer: es una carpeta; indique un archivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is no regular file; save its content in a file and name that</source>
+        <translation>no se puede leer: no es un archivo normal; guarde su contenido en un archivo e indique ese archivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>is empty; expected a file with data</source>
+        <translation>está vacío; se esperaba un archivo con datos</translation>
+    </message>
+    <message>
+        <source>a text file</source>
+        <translation>un archivo de texto</translation>
+    </message>
+    <message>
+        <source>an SPSS file</source>
+        <translation>un archivo de SPSS</translation>
+    </message>
+    <message>
+        <source>an encrypted SPSS file</source>
+        <translation>un archivo de SPSS cifrado</translation>
+    </message>
+    <message>
+        <source>an SPSS portable file</source>
+        <translation>un archivo portátil de SPSS</translation>
+    </message>
+    <message>
+        <source>a Stata file</source>
+        <translation>un archivo de Stata</translation>
+    </message>
+    <message>
+        <source>a SAS file</source>
+        <translation>un archivo de SAS</translation>
+    </message>
+    <message>
+        <source>a SAS catalogue</source>
+        <translation>un catálogo de SAS</translation>
+    </message>
+    <message>
+        <source>a SAS transport file</source>
+        <translation>un archivo de transporte de SAS</translation>
+    </message>
+    <message>
+        <source>a file of an unknown kind</source>
+        <translation>un archivo de tipo desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CategoriesText</name>
+    <message numerus="yes">
+        <source>%n empty codes are left out with their labels, because a category needs a code</source>
+        <translation>
+            <numerusform>se descarta %n código vacío con su etiqueta, porque una categoría necesita un código</numerusform>
+            <numerusform>se descartan %n códigos vacíos con sus etiquetas, porque una categoría necesita un código</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n codes are left out, because a category&apos;s code cannot hold a blank: %1</source>
+        <translation>
+            <numerusform>se descarta %n código, porque el código de una categoría no puede contener espacios: %1</numerusform>
+            <numerusform>se descartan %n códigos, porque el código de una categoría no puede contener espacios: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>tabs and line ends in %n labels became blanks</source>
+        <translation>
+            <numerusform>los tabuladores y saltos de línea de %n etiqueta se convirtieron en espacios</numerusform>
+            <numerusform>los tabuladores y saltos de línea de %n etiquetas se convirtieron en espacios</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CodeTexts</name>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2 and the not-applicable code is %3 instead of %4</source>
+        <translation>según declara la fuente, el código de omitido es %1 en lugar de %2 y el código de no aplica es %3 en lugar de %4</translation>
+    </message>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2</source>
+        <translation>según declara la fuente, el código de omitido es %1 en lugar de %2</translation>
+    </message>
+    <message>
+        <source>as the source declares, the not-applicable code is %1 instead of %2</source>
+        <translation>según declara la fuente, el código de no aplica es %1 en lugar de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::Completeness</name>
+    <message>
+        <source>does not hold the value labels &quot;%1&quot; of the variable %2: it was cut off or saved without them; get the whole file</source>
+        <translation>no contiene las etiquetas de valor «%1» de la variable %2: está truncado o se guardó sin ellas; consiga el archivo completo</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off; get the whole file</source>
+        <translation>termina demasiado pronto: está truncado; consiga el archivo completo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvCells</name>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation>El archivo está marcado como UTF-8 pero contiene otros bytes; se leyó como Windows-1252.</translation>
+    </message>
+    <message>
+        <source>1 cell is not in UTF-8 as others are; it was read as Windows-1252.</source>
+        <translation>1 celda no está en UTF-8 como las demás; se leyó como Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells are not in UTF-8 as others are; they were read as Windows-1252.</source>
+        <translation>
+            <numerusform>%n celda no está en UTF-8 como las demás; se leyó como Windows-1252.</numerusform>
+            <numerusform>%n celdas no están en UTF-8 como las demás; se leyeron como Windows-1252.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 cell holds what is no text in %1; choose another encoding if it matters.</source>
+        <translation>1 celda contiene algo que no es texto en %1; elija otra codificación si es importante.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells hold what is no text in %1; choose another encoding if it matters.</source>
+        <translation>
+            <numerusform>%n celda contiene algo que no es texto en %1; elija otra codificación si es importante.</numerusform>
+            <numerusform>%n celdas contienen algo que no es texto en %1; elija otra codificación si es importante.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumn</name>
+    <message>
+        <source>No value was found; the type STRING is a guess.</source>
+        <translation>No se encontró ningún valor; el tipo STRING es una suposición.</translation>
+    </message>
+    <message>
+        <source>Its numbers have a decimal comma; they were read as if it were a point.</source>
+        <translation>Sus números tienen coma decimal; se leyeron como si fuera un punto.</translation>
+    </message>
+    <message>
+        <source>1 value holds blanks and is no category: a code cannot hold them.</source>
+        <translation>1 valor contiene espacios y no es una categoría: un código no puede contenerlos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values hold blanks and are no categories: a code cannot hold them.</source>
+        <translation>
+            <numerusform>%n valor contiene espacios y no es una categoría: un código no puede contenerlos.</numerusform>
+            <numerusform>%n valores contienen espacios y no son categorías: un código no puede contenerlos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumns</name>
+    <message>
+        <source>1 record, in line %1, has more or fewer cells than the header has fields.</source>
+        <translation>1 registro, en la línea %1, tiene más o menos celdas que campos el encabezado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records have more or fewer cells than the header has fields, the first of them in line %1.</source>
+        <translation>
+            <numerusform>%n registro tiene más o menos celdas que campos el encabezado; está en la línea %1.</numerusform>
+            <numerusform>%n registros tienen más o menos celdas que campos el encabezado; el primero está en la línea %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation>1 campo no tiene nombre y se llama %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation>
+            <numerusform>%n campo no tiene nombre y se llama %1.</numerusform>
+            <numerusform>%n campos no tienen nombre y se llaman %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation>
+            <numerusform>%n campo lleva el nombre %1.</numerusform>
+            <numerusform>%n campos llevan el nombre %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation>
+            <numerusform>%n nombre corresponde a más de un campo: %1.</numerusform>
+            <numerusform>%n nombres corresponden a más de un campo: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvReader</name>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation>termina en medio de un carácter; puede estar truncado</translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation>no es un archivo de texto: contiene bytes nulos; se esperaba un archivo CSV en UTF-8, en UTF-16 con marca de orden de bytes o en Windows-1252</translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation>no tiene el final del encabezado en los primeros %1 MiB; cierre las comillas o elija otro archivo</translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation>tiene más de %1 campos en la primera línea; se esperaban menos</translation>
+    </message>
+    <message>
+        <source>has names of fields that are no text in %1; choose another encoding</source>
+        <translation>tiene nombres de campos que no son texto en %1; elija otra codificación</translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation>Los nombres están en la línea %1, debajo de líneas vacías.</translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation>tiene en el campo %1 de su encabezado unas comillas que no se cierran; ciérrelas en el archivo o elija otro separador</translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation>está vacío; se esperaban los nombres de los campos en la primera línea</translation>
+    </message>
+    <message>
+        <source>has a record of more than %1 MiB, which begins in line %2; close its quotation marks, or choose another separator</source>
+        <translation>tiene un registro de más de %1 MiB, que comienza en la línea %2; cierre las comillas o elija otro separador</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 has a quotation mark that is never closed; it was left out.</source>
+        <translation>El registro que comienza en la línea %1 tiene unas comillas que no se cierran; se descartó.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a character; it may have been cut off.</source>
+        <translation>El archivo termina en medio de un carácter; puede estar truncado.</translation>
+    </message>
+    <message>
+        <source>cannot be taken apart at the separator %1; choose a comma, a semicolon, a tab or a bar</source>
+        <translation>no se puede dividir por el separador %1; elija una coma, un punto y coma, un tabulador o una barra vertical</translation>
+    </message>
+    <message>
+        <source>cannot be read in %1, which is no known encoding; choose another</source>
+        <translation>no se puede leer en %1, que no es una codificación conocida; elija otra</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation>no se puede leer: es una carpeta; elija un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::FieldMaker</name>
+    <message>
+        <source>texts of more than %1 characters were cut there</source>
+        <translation>los textos de más de %1 caracteres se cortaron en ese punto</translation>
+    </message>
+    <message>
+        <source>the value labels of the format %1 are not in the catalogue</source>
+        <translation>las etiquetas de valor del formato %1 no están en el catálogo</translation>
+    </message>
+    <message>
+        <source>is a date of the format %1 and stays a number</source>
+        <translation>es una fecha con el formato %1 y queda como número</translation>
+    </message>
+    <message>
+        <source>is a text of any length, for which no size is declared</source>
+        <translation>es un texto de cualquier longitud, para el que no se declara ningún tamaño</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out with their labels, because a category&apos;s code is a number or a text: %1</source>
+        <translation>
+            <numerusform>se descarta %n código de omitido con su etiqueta, porque el código de una categoría es un número o un texto: %1</numerusform>
+            <numerusform>se descartan %n códigos de omitido con sus etiquetas, porque el código de una categoría es un número o un texto: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the range from %1 to %2 is left out: a field carries whole numbers from %3 to %4</source>
+        <translation>se descarta el rango de %1 a %2: un campo solo admite números enteros de %3 a %4</translation>
+    </message>
+    <message>
+        <source>the value labels &quot;%1&quot; are not in the file</source>
+        <translation>las etiquetas de valor &quot;%1&quot; no están en el archivo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::MissingCodes</name>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries whole numbers: %1</source>
+        <translation>
+            <numerusform>se descarta %n código de omitido, porque un campo solo admite números enteros: %1</numerusform>
+            <numerusform>se descartan %n códigos de omitido, porque un campo solo admite números enteros: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the missing code %1 is left out: a field carries whole numbers from %2 to %3</source>
+        <translation>se descarta el código de omitido %1: un campo solo admite números enteros de %2 a %3</translation>
+    </message>
+    <message>
+        <source>the missing values up to %1 are left out: a field carries single codes</source>
+        <translation>se descartan los valores omitidos hasta %1: un campo solo admite códigos individuales</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out: a field carries single codes</source>
+        <translation>se descartan los valores omitidos a partir de %1: un campo solo admite códigos individuales</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out: a field carries single codes</source>
+        <translation>se descartan los valores omitidos de %1 a %2: un campo solo admite códigos individuales</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries two: %1</source>
+        <translation>
+            <numerusform>se descarta %n código de omitido, porque un campo solo admite dos: %1</numerusform>
+            <numerusform>se descartan %n códigos de omitido, porque un campo solo admite dos: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SasCatalogue</name>
+    <message>
+        <source>its catalogue %1 %2</source>
+        <translation>su catálogo %1 %2</translation>
+    </message>
+    <message>
+        <source>There are no value labels: the catalogue %1 %2.</source>
+        <translation>No hay etiquetas de valor: el catálogo %1 %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The value labels of %n formats stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</source>
+        <translation>
+            <numerusform>Las etiquetas de valor de %n formato (%1) están en un catálogo (.sas7bcat) que no se encontró; indíquelo o colóquelo junto al archivo con el mismo nombre.</numerusform>
+            <numerusform>Las etiquetas de valor de %n formatos (%1) están en un catálogo (.sas7bcat) que no se encontró; indíquelo o colóquelo junto al archivo con el mismo nombre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no SAS catalogue by its content</source>
+        <translation>no es, por su contenido, un catálogo de SAS</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read</source>
+        <translation>está dañado y no se puede leer</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SourceReader</name>
+    <message>
+        <source>is encrypted; save it without a password</source>
+        <translation>está cifrado; guárdelo sin contraseña</translation>
+    </message>
+    <message>
+        <source>is a SAS catalogue, which holds value labels and no fields; open the .sas7bdat file that it belongs to</source>
+        <translation>es un catálogo de SAS, que contiene etiquetas de valor y ningún campo; abra el archivo .sas7bdat al que pertenece</translation>
+    </message>
+    <message>
+        <source>is of a kind that cannot be read; expected a file whose name ends in .%1</source>
+        <translation>es de un tipo que no se puede leer; se esperaba un archivo cuyo nombre termine en .%1</translation>
+    </message>
+    <message>
+        <source>is not %1 by its content, though its name ends in .%2; it is damaged or of another kind</source>
+        <translation>no es, por su contenido, %1, aunque su nombre termina en .%2; está dañado o es de otro tipo</translation>
+    </message>
+    <message>
+        <source>is %1 by its content, though its name ends in .%2; rename it to end in .%3</source>
+        <translation>es, por su contenido, %1, aunque su nombre termina en .%2; cámbiele el nombre para que termine en .%3</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalProblem</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>is of a version of its format that cannot be read; save it in another version</source>
+        <translation>es de una versión de su formato que no se puede leer; guárdelo en otra versión</translation>
+    </message>
+    <message>
+        <source>is compressed in a way that cannot be read; save it without compression</source>
+        <translation>está comprimido de una forma que no se puede leer; guárdelo sin compresión</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off or is damaged; get the whole file</source>
+        <translation>termina demasiado pronto: está truncado o dañado; consiga el archivo completo</translation>
+    </message>
+    <message>
+        <source>is damaged: it declares something larger than can be; get the file again</source>
+        <translation>está dañado: declara algo más grande de lo posible; consiga de nuevo el archivo</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read; get the file again</source>
+        <translation>está dañado y no se puede leer; consiga de nuevo el archivo</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1; choose another one</source>
+        <translation>contiene textos que no están en la codificación %1; elija otra</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding that it declares; choose the encoding</source>
+        <translation>contiene textos que no están en la codificación que declara; elija la codificación</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1, which it declares; choose another one</source>
+        <translation>contiene textos que no están en la codificación %1, que es la que declara; elija otra</translation>
+    </message>
+    <message>
+        <source>declares the encoding %1, which is not known; choose another one</source>
+        <translation>declara la codificación %1, que no se conoce; elija otra</translation>
+    </message>
+    <message>
+        <source>cannot be read in the encoding %1, which is not known; choose another one</source>
+        <translation>no se puede leer con la codificación %1, que no se conoce; elija otra</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalReader</name>
+    <message>
+        <source>holds no variables; expected at least one</source>
+        <translation>no contiene variables; se esperaba al menos una</translation>
+    </message>
+    <message>
+        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
+        <translation>Algunos textos no son UTF-8 válido y se leyeron como Windows-1252.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 records.</source>
+        <translation>Las categorías y los rangos provienen de los primeros %1 registros.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 of %2 records.</source>
+        <translation>Las categorías y los rangos provienen de los primeros %1 de %2 registros.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::VariableMerge</name>
+    <message>
+        <source>an earlier field, %1, gives %2 a variable %3 too</source>
+        <translation>un campo anterior, %1, también da a %2 una variable %3</translation>
+    </message>
+    <message>
+        <source>%1 has the variable %2 already, with the same alias, label and group</source>
+        <translation>%1 ya tiene la variable %2, con el mismo alias, la misma etiqueta y el mismo grupo</translation>
+    </message>
+    <message>
+        <source>%1 has a variable %2 already, with another alias, label or group</source>
+        <translation>%1 ya tiene una variable %2, con otro alias, otra etiqueta u otro grupo</translation>
     </message>
 </context>
 </TS>

@@ -533,81 +533,6 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     </message>
 </context>
 <context>
-    <name>tessel::editor::CsvHeader</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 et %n autre</numerusform>
-            <numerusform>%1 et %n autres</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>1 field has no name and is called %1.</source>
-        <translation>1 champ n&apos;a pas de nom et s&apos;appelle %1.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have no name and are called %1.</source>
-        <translation>
-            <numerusform>%n champ n&apos;a pas de nom et s&apos;appelle %1.</numerusform>
-            <numerusform>%n champs n&apos;ont pas de nom et s&apos;appellent %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have the name %1.</source>
-        <translation>
-            <numerusform>%n champ porte le nom %1.</numerusform>
-            <numerusform>%n champs portent le nom %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n names belong to more than one field: %1.</source>
-        <translation>
-            <numerusform>%n nom est porté par plusieurs champs&#xa0;: %1.</numerusform>
-            <numerusform>%n noms sont portés par plusieurs champs&#xa0;: %1.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation>n&apos;est pas un fichier texte&#xa0;: il contient des octets nuls&#xa0;; un fichier CSV en UTF-8, en UTF-16 avec marque d&apos;ordre des octets ou en Windows-1252 était attendu</translation>
-    </message>
-    <message>
-        <source>is empty; expected the names of fields in its first line</source>
-        <translation>est vide&#xa0;; les noms des champs étaient attendus à la première ligne</translation>
-    </message>
-    <message>
-        <source>ends in the middle of a character; it may have been cut off</source>
-        <translation>s&apos;arrête au milieu d&apos;un caractère&#xa0;; il a peut-être été tronqué</translation>
-    </message>
-    <message>
-        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation>contient dans le champ %1 de son en-tête un guillemet jamais refermé&#xa0;; refermez-le dans le fichier ou choisissez un autre séparateur</translation>
-    </message>
-    <message>
-        <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation>contient plus de %1 champs à la première ligne&#xa0;; un nombre inférieur était attendu</translation>
-    </message>
-    <message>
-        <source>The names stand in line %1, below empty lines.</source>
-        <translation>Les noms se trouvent à la ligne %1, sous des lignes vides.</translation>
-    </message>
-    <message>
-        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation>Le fichier est marqué comme UTF-8 mais contient d&apos;autres octets&#xa0;; il a été lu en Windows-1252.</translation>
-    </message>
-    <message>
-        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation>n&apos;a pas de fin d&apos;en-tête dans les premiers %1 Mio&#xa0;; refermez les guillemets ou choisissez un autre fichier</translation>
-    </message>
-    <message>
-        <source>cannot be read: it is a folder; choose a file</source>
-        <translation>ne peut pas être lu&#xa0;: c&apos;est un dossier&#xa0;; choisissez un fichier</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>ne peut pas être lu&#xa0;: %1</translation>
-    </message>
-</context>
-<context>
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
@@ -785,12 +710,166 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
             <numerusform>%1&#xa0;: %n champs.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Ra&amp;nges from data</source>
+        <translation>E&amp;xtraire les plages</translation>
+    </message>
+    <message>
+        <source>Open a dataset</source>
+        <translation>Ouvrir un jeu de données</translation>
+    </message>
+    <message>
+        <source>Datasets (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;SAS catalogues of labels (*.sas7bcat);;All files (*)</source>
+        <translation>Jeux de données (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;Catalogues de libellés SAS (*.sas7bcat);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>En&amp;coding:</source>
+        <translation>Codage du f&amp;ichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source> records</source>
+        <translation> enregistrements</translation>
+    </message>
+    <message>
+        <source>How many records are looked at for ranges and categories</source>
+        <translation>Nombre d&apos;enregistrements examinés pour les plages et les catégories</translation>
+    </message>
+    <message>
+        <source>How many records are looked at, from the first.</source>
+        <translation>Nombre d&apos;enregistrements examinés, à partir du premier.</translation>
+    </message>
+    <message>
+        <source>Find ranges and categories in the records of the dataset</source>
+        <translation>Chercher des plages et des catégories dans les enregistrements du jeu de données</translation>
+    </message>
+    <message>
+        <source>Reads the first records: numbers get the range of their values, and fields without categories get those that are found.</source>
+        <translation>Lit les premiers enregistrements&#xa0;: les nombres reçoivent la plage de leurs valeurs et les champs sans catégories reçoivent celles qui sont trouvées.</translation>
+    </message>
+    <message>
+        <source>Lists what the file says and the fields do not carry.</source>
+        <translation>Énumère ce que le fichier indique et que les champs ne reprennent pas.</translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset</source>
+        <translation>Remarques sur le jeu de données</translation>
+    </message>
+    <message>
+        <source>%1: holds labels and no fields; open the .sas7bdat file that they belong to first</source>
+        <translation>%1&#xa0;: contient des libellés et aucun champ&#xa0;; ouvrez d&apos;abord le fichier .sas7bdat auquel ils appartiennent</translation>
+    </message>
+    <message>
+        <source>%1 (see the box &quot;Encoding&quot;)</source>
+        <translation>%1 (voir la zone «&#xa0;Codage du fichier&#xa0;»)</translation>
+    </message>
+    <message>
+        <source>Records: %L1.</source>
+        <translation>Enregistrements&#xa0;: %L1.</translation>
+    </message>
+    <message>
+        <source>Encoding: %1.</source>
+        <translation>Codage&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Format: %1.</source>
+        <translation>Format&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Labels: %1.</source>
+        <translation>Libellés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Records looked at: %L1.</source>
+        <translation>Enregistrements examinés&#xa0;: %L1.</translation>
+    </message>
+    <message>
+        <source>Title: %1.</source>
+        <translation>Titre&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>1 re&amp;mark…</source>
+        <translation>1 re&amp;marque…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n re&amp;marks…</source>
+        <translation>
+            <numerusform>%n re&amp;marque…</numerusform>
+            <numerusform>%n re&amp;marques…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset: %1</source>
+        <translation>Remarques sur le jeu de données&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Remarks on %1</source>
+        <translation>Remarques sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DeclaredCodesOffer</name>
+    <message>
+        <source>&amp;Set them</source>
+        <translation>Appli&amp;quer ces codes</translation>
+    </message>
+    <message>
+        <source>&amp;Leave</source>
+        <translation>Laisser inc&amp;hangés</translation>
+    </message>
+    <message>
+        <source>%1: missing code %2 instead of %3.</source>
+        <translation>%1&#xa0;: code manquant %2 au lieu de %3.</translation>
+    </message>
+    <message>
+        <source>%1: not-applicable code %2 instead of %3.</source>
+        <translation>%1&#xa0;: code non applicable %2 au lieu de %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the %1 new variables have missing or not-applicable codes declared in the file.</source>
+        <translation>
+            <numerusform>%n des %1 nouvelles variables a des codes manquant ou non applicable déclarés dans le fichier.</numerusform>
+            <numerusform>%n des %1 nouvelles variables ont des codes manquant ou non applicable déclarés dans le fichier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>set declared codes</source>
+        <translation>application des codes déclarés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables have the declared codes now.</source>
+        <translation>
+            <numerusform>%n variable a maintenant les codes déclarés.</numerusform>
+            <numerusform>%n variables ont maintenant les codes déclarés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DetailsDialog</name>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::DictionaryDocument</name>
     <message>
         <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
         <translation>est une configuration de traitement, pas un dictionnaire&#xa0;; ouvrez-la par Traitement, Ouvrir un traitement</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EncodingBox</name>
+    <message>
+        <source>The encoding of the texts in the file; a choice, or a name and Return, reads it again.</source>
+        <translation>Le codage des textes du fichier&#xa0;; un nouveau choix, ou un nom suivi d&apos;Entrée, fait relire le fichier.</translation>
+    </message>
+    <message>
+        <source>Encoding of the dataset</source>
+        <translation>Codage du jeu de données</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
     </message>
 </context>
 <context>
@@ -876,6 +955,14 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>%1 goes with its variables and all entities below it. Delete?</source>
         <translation>%1 disparaît avec ses variables et toutes les entités situées au-dessous. Supprimer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>an entity needs a name</source>
+        <translation>une entité doit avoir un nom</translation>
+    </message>
+    <message>
+        <source>a name begins with a letter or _ and goes on with letters, digits and _</source>
+        <translation>un nom commence par une lettre ou _ et se poursuit par des lettres, des chiffres et _</translation>
     </message>
 </context>
 <context>
@@ -1534,8 +1621,12 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>E&amp;ntité</translation>
     </message>
     <message>
-        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
-        <translation>Les fichiers de ce type ne peuvent pas encore être lus&#xa0;; ouvrez un fichier CSV ou une liste de tables de référence.</translation>
+        <source>Labels in the &amp;tree</source>
+        <translation>Libellés dans l&apos;&amp;arbre</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
     </message>
 </context>
 <context>
@@ -1719,6 +1810,59 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>change %1 of %2</source>
         <translation>modification de «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ReadingProgress</name>
+    <message>
+        <source>Reading the records of %1…</source>
+        <translation>Lecture des enregistrements de %1…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecordingDelegate</name>
+    <message>
+        <source>a whole number from %1 to %2 is expected</source>
+        <translation>un nombre entier de %1 à %2 est attendu</translation>
+    </message>
+    <message>
+        <source>a number such as 12 or -0.5 is expected</source>
+        <translation>un nombre tel que 12 ou -0.5 est attendu</translation>
+    </message>
+    <message>
+        <source>the rules of the dictionary do not allow it</source>
+        <translation>les règles du dictionnaire ne le permettent pas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken: %2. Correct it, or press Esc to give it up.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas été accepté&#xa0;: %2. Corrigez la saisie ou appuyez sur Échap pour l&apos;abandonner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken (%2): %3. It can be copied from here.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas été accepté (%2)&#xa0;: %3. Le texte peut être copié ici.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecoveryBar</name>
+    <message>
+        <source>Open &amp;it</source>
+        <translation>L&apos;ou&amp;vrir</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>Pl&amp;us tard</translation>
+    </message>
+    <message>
+        <source>An earlier session ended without saving a dictionary that has no file yet.</source>
+        <translation>Une session précédente s&apos;est terminée sans enregistrer un dictionnaire qui n&apos;a pas encore de fichier.</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2325,17 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <source>rename %1</source>
         <translation>renommage de %1</translation>
     </message>
+    <message>
+        <source>a tag is a whole number</source>
+        <translation>un Tag est un nombre entier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another entity.</source>
+        <translation>
+            <numerusform>%n table de référence n&apos;a pas été ajoutée&#xa0;: %1 n&apos;est pas sélectionnable. Marquez cette entité comme sélectionnable ou choisissez-en une autre.</numerusform>
+            <numerusform>%n tables de référence n&apos;ont pas été ajoutées&#xa0;: %1 n&apos;est pas sélectionnable. Marquez cette entité comme sélectionnable ou choisissez-en une autre.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::VariablesPage</name>
@@ -2292,6 +2447,471 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources</name>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>ne peut pas être lu&#xa0;: c&apos;est un dossier&#xa0;; indiquez un fichier</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is no regular file; save its content in a file and name that</source>
+        <translation>ne peut pas être lu&#xa0;: ce n&apos;est pas un fichier ordinaire&#xa0;; enregistrez son contenu dans un fichier et indiquez celui-ci</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is empty; expected a file with data</source>
+        <translation>est vide&#xa0;; un fichier contenant des données était attendu</translation>
+    </message>
+    <message>
+        <source>a text file</source>
+        <translation>un fichier texte</translation>
+    </message>
+    <message>
+        <source>an SPSS file</source>
+        <translation>un fichier SPSS</translation>
+    </message>
+    <message>
+        <source>an encrypted SPSS file</source>
+        <translation>un fichier SPSS chiffré</translation>
+    </message>
+    <message>
+        <source>an SPSS portable file</source>
+        <translation>un fichier portable SPSS</translation>
+    </message>
+    <message>
+        <source>a Stata file</source>
+        <translation>un fichier Stata</translation>
+    </message>
+    <message>
+        <source>a SAS file</source>
+        <translation>un fichier SAS</translation>
+    </message>
+    <message>
+        <source>a SAS catalogue</source>
+        <translation>un catalogue SAS</translation>
+    </message>
+    <message>
+        <source>a SAS transport file</source>
+        <translation>un fichier de transport SAS</translation>
+    </message>
+    <message>
+        <source>a file of an unknown kind</source>
+        <translation>un fichier de type inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CategoriesText</name>
+    <message numerus="yes">
+        <source>%n empty codes are left out with their labels, because a category needs a code</source>
+        <translation>
+            <numerusform>%n code vide est laissé de côté avec son libellé, car une catégorie doit avoir un code</numerusform>
+            <numerusform>%n codes vides sont laissés de côté avec leurs libellés, car une catégorie doit avoir un code</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n codes are left out, because a category&apos;s code cannot hold a blank: %1</source>
+        <translation>
+            <numerusform>%n code est laissé de côté, car le code d&apos;une catégorie ne peut pas contenir d&apos;espace&#xa0;: %1</numerusform>
+            <numerusform>%n codes sont laissés de côté, car le code d&apos;une catégorie ne peut pas contenir d&apos;espace&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>tabs and line ends in %n labels became blanks</source>
+        <translation>
+            <numerusform>les tabulations et les fins de ligne de %n libellé ont été remplacées par des espaces</numerusform>
+            <numerusform>les tabulations et les fins de ligne de %n libellés ont été remplacées par des espaces</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CodeTexts</name>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2 and the not-applicable code is %3 instead of %4</source>
+        <translation>comme la source le déclare, le code manquant est %1 au lieu de %2 et le code non applicable est %3 au lieu de %4</translation>
+    </message>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2</source>
+        <translation>comme la source le déclare, le code manquant est %1 au lieu de %2</translation>
+    </message>
+    <message>
+        <source>as the source declares, the not-applicable code is %1 instead of %2</source>
+        <translation>comme la source le déclare, le code non applicable est %1 au lieu de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::Completeness</name>
+    <message>
+        <source>does not hold the value labels &quot;%1&quot; of the variable %2: it was cut off or saved without them; get the whole file</source>
+        <translation>ne contient pas les libellés de valeur «&#xa0;%1&#xa0;» de la variable %2&#xa0;: il a été tronqué ou enregistré sans eux&#xa0;; procurez-vous le fichier complet</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off; get the whole file</source>
+        <translation>se termine trop tôt&#xa0;: il a été tronqué&#xa0;; procurez-vous le fichier complet</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvCells</name>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation>Le fichier est marqué comme UTF-8 mais contient d&apos;autres octets&#xa0;; il a été lu en Windows-1252.</translation>
+    </message>
+    <message>
+        <source>1 cell is not in UTF-8 as others are; it was read as Windows-1252.</source>
+        <translation>1 cellule n&apos;est pas en UTF-8 comme les autres&#xa0;; elle a été lue en Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells are not in UTF-8 as others are; they were read as Windows-1252.</source>
+        <translation>
+            <numerusform>%n cellule n&apos;est pas en UTF-8 comme les autres&#xa0;; elle a été lue en Windows-1252.</numerusform>
+            <numerusform>%n cellules ne sont pas en UTF-8 comme les autres&#xa0;; elles ont été lues en Windows-1252.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 cell holds what is no text in %1; choose another encoding if it matters.</source>
+        <translation>1 cellule contient autre chose que du texte en %1&#xa0;; choisissez un autre codage si cela importe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells hold what is no text in %1; choose another encoding if it matters.</source>
+        <translation>
+            <numerusform>%n cellule contient autre chose que du texte en %1&#xa0;; choisissez un autre codage si cela importe.</numerusform>
+            <numerusform>%n cellules contiennent autre chose que du texte en %1&#xa0;; choisissez un autre codage si cela importe.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumn</name>
+    <message>
+        <source>No value was found; the type STRING is a guess.</source>
+        <translation>Aucune valeur n&apos;a été trouvée&#xa0;; le type STRING est une supposition.</translation>
+    </message>
+    <message>
+        <source>Its numbers have a decimal comma; they were read as if it were a point.</source>
+        <translation>Ses nombres ont une virgule décimale&#xa0;; ils ont été lus comme si c&apos;était un point.</translation>
+    </message>
+    <message>
+        <source>1 value holds blanks and is no category: a code cannot hold them.</source>
+        <translation>1 valeur contient des espaces et n&apos;est pas une catégorie&#xa0;: un code ne peut pas en contenir.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values hold blanks and are no categories: a code cannot hold them.</source>
+        <translation>
+            <numerusform>%n valeur contient des espaces et n&apos;est pas une catégorie&#xa0;: un code ne peut pas en contenir.</numerusform>
+            <numerusform>%n valeurs contiennent des espaces et ne sont pas des catégories&#xa0;: un code ne peut pas en contenir.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumns</name>
+    <message>
+        <source>1 record, in line %1, has more or fewer cells than the header has fields.</source>
+        <translation>1 enregistrement, à la ligne %1, a plus ou moins de cellules que l&apos;en-tête n&apos;a de champs.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records have more or fewer cells than the header has fields, the first of them in line %1.</source>
+        <translation>
+            <numerusform>%n enregistrement a plus ou moins de cellules que l&apos;en-tête n&apos;a de champs&#xa0;; il se trouve à la ligne %1.</numerusform>
+            <numerusform>%n enregistrements ont plus ou moins de cellules que l&apos;en-tête n&apos;a de champs&#xa0;; le premier se trouve à la ligne %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation>1 champ n&apos;a pas de nom et s&apos;appelle %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation>
+            <numerusform>%n champ n&apos;a pas de nom et s&apos;appelle %1.</numerusform>
+            <numerusform>%n champs n&apos;ont pas de nom et s&apos;appellent %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation>
+            <numerusform>%n champ porte le nom %1.</numerusform>
+            <numerusform>%n champs portent le nom %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation>
+            <numerusform>%n nom est porté par plusieurs champs&#xa0;: %1.</numerusform>
+            <numerusform>%n noms sont portés par plusieurs champs&#xa0;: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvReader</name>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation>s&apos;arrête au milieu d&apos;un caractère&#xa0;; il a peut-être été tronqué</translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation>n&apos;est pas un fichier texte&#xa0;: il contient des octets nuls&#xa0;; un fichier CSV en UTF-8, en UTF-16 avec marque d&apos;ordre des octets ou en Windows-1252 était attendu</translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation>n&apos;a pas de fin d&apos;en-tête dans les premiers %1 Mio&#xa0;; refermez les guillemets ou choisissez un autre fichier</translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation>contient plus de %1 champs à la première ligne&#xa0;; un nombre inférieur était attendu</translation>
+    </message>
+    <message>
+        <source>has names of fields that are no text in %1; choose another encoding</source>
+        <translation>contient des noms de champs qui ne sont pas du texte en %1&#xa0;; choisissez un autre codage</translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation>Les noms se trouvent à la ligne %1, sous des lignes vides.</translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation>contient dans le champ %1 de son en-tête un guillemet jamais refermé&#xa0;; refermez-le dans le fichier ou choisissez un autre séparateur</translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation>est vide&#xa0;; les noms des champs étaient attendus à la première ligne</translation>
+    </message>
+    <message>
+        <source>has a record of more than %1 MiB, which begins in line %2; close its quotation marks, or choose another separator</source>
+        <translation>contient un enregistrement de plus de %1 Mio, qui commence à la ligne %2&#xa0;; refermez les guillemets ou choisissez un autre séparateur</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 has a quotation mark that is never closed; it was left out.</source>
+        <translation>L&apos;enregistrement qui commence à la ligne %1 contient un guillemet jamais refermé&#xa0;; il a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a character; it may have been cut off.</source>
+        <translation>Le fichier s&apos;arrête au milieu d&apos;un caractère&#xa0;; il a peut-être été tronqué.</translation>
+    </message>
+    <message>
+        <source>cannot be taken apart at the separator %1; choose a comma, a semicolon, a tab or a bar</source>
+        <translation>ne peut pas être découpé au séparateur %1&#xa0;; choisissez une virgule, un point-virgule, une tabulation ou une barre verticale</translation>
+    </message>
+    <message>
+        <source>cannot be read in %1, which is no known encoding; choose another</source>
+        <translation>ne peut pas être lu en %1, qui n&apos;est pas un codage connu&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation>ne peut pas être lu&#xa0;: c&apos;est un dossier&#xa0;; choisissez un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::FieldMaker</name>
+    <message>
+        <source>texts of more than %1 characters were cut there</source>
+        <translation>les textes de plus de %1 caractères ont été coupés à cette longueur</translation>
+    </message>
+    <message>
+        <source>the value labels of the format %1 are not in the catalogue</source>
+        <translation>les libellés de valeur du format %1 ne sont pas dans le catalogue</translation>
+    </message>
+    <message>
+        <source>is a date of the format %1 and stays a number</source>
+        <translation>est une date au format %1 et reste un nombre</translation>
+    </message>
+    <message>
+        <source>is a text of any length, for which no size is declared</source>
+        <translation>est un texte de longueur quelconque, pour lequel aucune taille n&apos;est déclarée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out with their labels, because a category&apos;s code is a number or a text: %1</source>
+        <translation>
+            <numerusform>%n code manquant est laissé de côté avec son libellé, car le code d&apos;une catégorie est un nombre ou un texte&#xa0;: %1</numerusform>
+            <numerusform>%n codes manquants sont laissés de côté avec leurs libellés, car le code d&apos;une catégorie est un nombre ou un texte&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the range from %1 to %2 is left out: a field carries whole numbers from %3 to %4</source>
+        <translation>la plage de %1 à %2 est laissée de côté&#xa0;: un champ n&apos;admet que des nombres entiers de %3 à %4</translation>
+    </message>
+    <message>
+        <source>the value labels &quot;%1&quot; are not in the file</source>
+        <translation>les libellés de valeur « %1 » ne sont pas dans le fichier</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::MissingCodes</name>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries whole numbers: %1</source>
+        <translation>
+            <numerusform>%n code manquant est laissé de côté, car un champ n&apos;admet que des nombres entiers&#xa0;: %1</numerusform>
+            <numerusform>%n codes manquants sont laissés de côté, car un champ n&apos;admet que des nombres entiers&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the missing code %1 is left out: a field carries whole numbers from %2 to %3</source>
+        <translation>le code manquant %1 est laissé de côté&#xa0;: un champ n&apos;admet que des nombres entiers de %2 à %3</translation>
+    </message>
+    <message>
+        <source>the missing values up to %1 are left out: a field carries single codes</source>
+        <translation>les valeurs manquantes jusqu&apos;à %1 sont laissées de côté&#xa0;: un champ n&apos;admet que des codes isolés</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out: a field carries single codes</source>
+        <translation>les valeurs manquantes à partir de %1 sont laissées de côté&#xa0;: un champ n&apos;admet que des codes isolés</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out: a field carries single codes</source>
+        <translation>les valeurs manquantes de %1 à %2 sont laissées de côté&#xa0;: un champ n&apos;admet que des codes isolés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries two: %1</source>
+        <translation>
+            <numerusform>%n code manquant est laissé de côté, car un champ n&apos;en admet que deux&#xa0;: %1</numerusform>
+            <numerusform>%n codes manquants sont laissés de côté, car un champ n&apos;en admet que deux&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SasCatalogue</name>
+    <message>
+        <source>its catalogue %1 %2</source>
+        <translation>son catalogue %1 %2</translation>
+    </message>
+    <message>
+        <source>There are no value labels: the catalogue %1 %2.</source>
+        <translation>Il n&apos;y a pas de libellés de valeur&#xa0;: le catalogue %1 %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The value labels of %n formats stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</source>
+        <translation>
+            <numerusform>Les libellés de valeur de %n format (%1) se trouvent dans un catalogue (.sas7bcat) introuvable&#xa0;; indiquez-le ou placez-le à côté du fichier sous le même nom.</numerusform>
+            <numerusform>Les libellés de valeur de %n formats (%1) se trouvent dans un catalogue (.sas7bcat) introuvable&#xa0;; indiquez-le ou placez-le à côté du fichier sous le même nom.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no SAS catalogue by its content</source>
+        <translation>n&apos;est pas, d&apos;après son contenu, un catalogue SAS</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read</source>
+        <translation>est endommagé et ne peut pas être lu</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SourceReader</name>
+    <message>
+        <source>is encrypted; save it without a password</source>
+        <translation>est chiffré&#xa0;; enregistrez-le sans mot de passe</translation>
+    </message>
+    <message>
+        <source>is a SAS catalogue, which holds value labels and no fields; open the .sas7bdat file that it belongs to</source>
+        <translation>est un catalogue SAS, qui contient des libellés de valeur et aucun champ&#xa0;; ouvrez le fichier .sas7bdat auquel il appartient</translation>
+    </message>
+    <message>
+        <source>is of a kind that cannot be read; expected a file whose name ends in .%1</source>
+        <translation>est d&apos;un type qui ne peut pas être lu&#xa0;; un fichier dont le nom se termine par .%1 était attendu</translation>
+    </message>
+    <message>
+        <source>is not %1 by its content, though its name ends in .%2; it is damaged or of another kind</source>
+        <translation>n&apos;est pas, d&apos;après son contenu, %1, bien que son nom se termine par .%2&#xa0;; il est endommagé ou d&apos;un autre type</translation>
+    </message>
+    <message>
+        <source>is %1 by its content, though its name ends in .%2; rename it to end in .%3</source>
+        <translation>est, d&apos;après son contenu, %1, bien que son nom se termine par .%2&#xa0;; renommez-le pour que son nom se termine par .%3</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalProblem</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is of a version of its format that cannot be read; save it in another version</source>
+        <translation>est dans une version de son format qui ne peut pas être lue&#xa0;; enregistrez-le dans une autre version</translation>
+    </message>
+    <message>
+        <source>is compressed in a way that cannot be read; save it without compression</source>
+        <translation>est compressé d&apos;une façon qui ne peut pas être lue&#xa0;; enregistrez-le sans compression</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off or is damaged; get the whole file</source>
+        <translation>se termine trop tôt&#xa0;: il a été tronqué ou est endommagé&#xa0;; procurez-vous le fichier complet</translation>
+    </message>
+    <message>
+        <source>is damaged: it declares something larger than can be; get the file again</source>
+        <translation>est endommagé&#xa0;: il déclare quelque chose de plus grand que possible&#xa0;; procurez-vous de nouveau le fichier</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read; get the file again</source>
+        <translation>est endommagé et ne peut pas être lu&#xa0;; procurez-vous de nouveau le fichier</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1; choose another one</source>
+        <translation>contient des textes qui ne sont pas dans le codage %1&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding that it declares; choose the encoding</source>
+        <translation>contient des textes qui ne sont pas dans le codage qu&apos;il déclare&#xa0;; choisissez le codage</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1, which it declares; choose another one</source>
+        <translation>contient des textes qui ne sont pas dans le codage %1 qu&apos;il déclare&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>declares the encoding %1, which is not known; choose another one</source>
+        <translation>déclare le codage %1, qui n&apos;est pas connu&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>cannot be read in the encoding %1, which is not known; choose another one</source>
+        <translation>ne peut pas être lu dans le codage %1, qui n&apos;est pas connu&#xa0;; choisissez-en un autre</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalReader</name>
+    <message>
+        <source>holds no variables; expected at least one</source>
+        <translation>ne contient pas de variables&#xa0;; au moins une était attendue</translation>
+    </message>
+    <message>
+        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
+        <translation>Certains textes ne sont pas en UTF-8 valide et ont été lus en Windows-1252.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 records.</source>
+        <translation>Les catégories et les plages proviennent des %1 premiers enregistrements.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 of %2 records.</source>
+        <translation>Les catégories et les plages proviennent des %1 premiers enregistrements sur %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::VariableMerge</name>
+    <message>
+        <source>an earlier field, %1, gives %2 a variable %3 too</source>
+        <translation>un champ précédent, %1, donne aussi à %2 une variable %3</translation>
+    </message>
+    <message>
+        <source>%1 has the variable %2 already, with the same alias, label and group</source>
+        <translation>%1 a déjà la variable %2, avec les mêmes alias, libellé et groupe</translation>
+    </message>
+    <message>
+        <source>%1 has a variable %2 already, with another alias, label or group</source>
+        <translation>%1 a déjà une variable %2, avec un autre alias, un autre libellé ou un autre groupe</translation>
     </message>
 </context>
 </TS>

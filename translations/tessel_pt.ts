@@ -533,81 +533,6 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     </message>
 </context>
 <context>
-    <name>tessel::editor::CsvHeader</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 e mais %n</numerusform>
-            <numerusform>%1 e mais %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>1 field has no name and is called %1.</source>
-        <translation>1 campo não tem nome e se chama %1.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have no name and are called %1.</source>
-        <translation>
-            <numerusform>%n campo não tem nome e se chama %1.</numerusform>
-            <numerusform>%n campos não têm nome e se chamam %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n fields have the name %1.</source>
-        <translation>
-            <numerusform>%n campo tem o nome %1.</numerusform>
-            <numerusform>%n campos têm o nome %1.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n names belong to more than one field: %1.</source>
-        <translation>
-            <numerusform>%n nome pertence a mais de um campo: %1.</numerusform>
-            <numerusform>%n nomes pertencem a mais de um campo: %1.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
-        <translation>não é um arquivo de texto: contém bytes nulos; esperava-se um arquivo CSV em UTF-8, em UTF-16 com marca de ordem de bytes ou em Windows-1252</translation>
-    </message>
-    <message>
-        <source>is empty; expected the names of fields in its first line</source>
-        <translation>está vazio; esperavam-se os nomes dos campos na primeira linha</translation>
-    </message>
-    <message>
-        <source>ends in the middle of a character; it may have been cut off</source>
-        <translation>termina no meio de um caractere; pode ter sido truncado</translation>
-    </message>
-    <message>
-        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
-        <translation>tem no campo %1 do cabeçalho aspas que não são fechadas; feche-as no arquivo ou escolha outro separador</translation>
-    </message>
-    <message>
-        <source>has more than %1 fields in its first line; expected fewer</source>
-        <translation>tem mais de %1 campos na primeira linha; esperavam-se menos</translation>
-    </message>
-    <message>
-        <source>The names stand in line %1, below empty lines.</source>
-        <translation>Os nomes estão na linha %1, abaixo de linhas vazias.</translation>
-    </message>
-    <message>
-        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
-        <translation>O arquivo está marcado como UTF-8, mas contém outros bytes; foi lido como Windows-1252.</translation>
-    </message>
-    <message>
-        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
-        <translation>não tem o fim do cabeçalho nos primeiros %1 MiB; feche as aspas ou escolha outro arquivo</translation>
-    </message>
-    <message>
-        <source>cannot be read: it is a folder; choose a file</source>
-        <translation>não pode ser lido: é uma pasta; escolha um arquivo</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>não pode ser lido: %1</translation>
-    </message>
-</context>
-<context>
     <name>tessel::editor::CsvSourceTab</name>
     <message>
         <source>CSV fields</source>
@@ -785,12 +710,166 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
             <numerusform>%1: %n campos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Ra&amp;nges from data</source>
+        <translation>Extrair inter&amp;valos</translation>
+    </message>
+    <message>
+        <source>Open a dataset</source>
+        <translation>Abrir um conjunto de dados</translation>
+    </message>
+    <message>
+        <source>Datasets (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;SAS catalogues of labels (*.sas7bcat);;All files (*)</source>
+        <translation>Conjuntos de dados (*.sav *.zsav *.por *.dta *.sas7bdat *.xpt);;SPSS (*.sav *.zsav *.por);;Stata (*.dta);;SAS (*.sas7bdat *.xpt);;Catálogos de rótulos do SAS (*.sas7bcat);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>En&amp;coding:</source>
+        <translation>&amp;Codificação:</translation>
+    </message>
+    <message>
+        <source> records</source>
+        <translation> registros</translation>
+    </message>
+    <message>
+        <source>How many records are looked at for ranges and categories</source>
+        <translation>Quantos registros são examinados para obter intervalos e categorias</translation>
+    </message>
+    <message>
+        <source>How many records are looked at, from the first.</source>
+        <translation>Quantos registros são examinados, a partir do primeiro.</translation>
+    </message>
+    <message>
+        <source>Find ranges and categories in the records of the dataset</source>
+        <translation>Procurar intervalos e categorias nos registros do conjunto de dados</translation>
+    </message>
+    <message>
+        <source>Reads the first records: numbers get the range of their values, and fields without categories get those that are found.</source>
+        <translation>Lê os primeiros registros: os números recebem o intervalo de seus valores e os campos sem categorias recebem as que forem encontradas.</translation>
+    </message>
+    <message>
+        <source>Lists what the file says and the fields do not carry.</source>
+        <translation>Lista o que o arquivo informa e os campos não registram.</translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset</source>
+        <translation>Observações sobre o conjunto de dados</translation>
+    </message>
+    <message>
+        <source>%1: holds labels and no fields; open the .sas7bdat file that they belong to first</source>
+        <translation>%1: contém rótulos e nenhum campo; abra primeiro o arquivo .sas7bdat a que eles pertencem</translation>
+    </message>
+    <message>
+        <source>%1 (see the box &quot;Encoding&quot;)</source>
+        <translation>%1 (veja a caixa “Codificação”)</translation>
+    </message>
+    <message>
+        <source>Records: %L1.</source>
+        <translation>Registros: %L1.</translation>
+    </message>
+    <message>
+        <source>Encoding: %1.</source>
+        <translation>Codificação: %1.</translation>
+    </message>
+    <message>
+        <source>Format: %1.</source>
+        <translation>Formato: %1.</translation>
+    </message>
+    <message>
+        <source>Labels: %1.</source>
+        <translation>Rótulos: %1.</translation>
+    </message>
+    <message>
+        <source>Records looked at: %L1.</source>
+        <translation>Registros examinados: %L1.</translation>
+    </message>
+    <message>
+        <source>Title: %1.</source>
+        <translation>Título: %1.</translation>
+    </message>
+    <message>
+        <source>1 re&amp;mark…</source>
+        <translation>1 &amp;observação…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n re&amp;marks…</source>
+        <translation>
+            <numerusform>%n &amp;observação…</numerusform>
+            <numerusform>%n &amp;observações…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remarks on the dataset: %1</source>
+        <translation>Observações sobre o conjunto de dados: %1</translation>
+    </message>
+    <message>
+        <source>Remarks on %1</source>
+        <translation>Observações sobre %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DeclaredCodesOffer</name>
+    <message>
+        <source>&amp;Set them</source>
+        <translation>&amp;Usá-los</translation>
+    </message>
+    <message>
+        <source>&amp;Leave</source>
+        <translation>Deixar co&amp;mo estão</translation>
+    </message>
+    <message>
+        <source>%1: missing code %2 instead of %3.</source>
+        <translation>%1: código de ausente %2 em vez de %3.</translation>
+    </message>
+    <message>
+        <source>%1: not-applicable code %2 instead of %3.</source>
+        <translation>%1: código de não se aplica %2 em vez de %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the %1 new variables have missing or not-applicable codes declared in the file.</source>
+        <translation>
+            <numerusform>%n das %1 variáveis novas tem códigos de ausente ou de não se aplica declarados no arquivo.</numerusform>
+            <numerusform>%n das %1 variáveis novas têm códigos de ausente ou de não se aplica declarados no arquivo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>set declared codes</source>
+        <translation>atribuição de códigos declarados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n variables have the declared codes now.</source>
+        <translation>
+            <numerusform>%n variável agora tem os códigos declarados.</numerusform>
+            <numerusform>%n variáveis agora têm os códigos declarados.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::DetailsDialog</name>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::DictionaryDocument</name>
     <message>
         <source>is a run configuration, not a dictionary; open it with Run, Open run</source>
         <translation>é uma configuração de processamento, não um dicionário; abra-a com Processamento, Abrir processamento</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::EncodingBox</name>
+    <message>
+        <source>The encoding of the texts in the file; a choice, or a name and Return, reads it again.</source>
+        <translation>A codificação dos textos do arquivo; ao escolher outra, ou digitar um nome e pressionar Enter, o arquivo é lido de novo.</translation>
+    </message>
+    <message>
+        <source>Encoding of the dataset</source>
+        <translation>Codificação do conjunto de dados</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
     </message>
 </context>
 <context>
@@ -876,6 +955,14 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>%1 goes with its variables and all entities below it. Delete?</source>
         <translation>%1 será excluída com suas variáveis e todas as entidades abaixo dela. Excluir?</translation>
+    </message>
+    <message>
+        <source>an entity needs a name</source>
+        <translation>uma entidade precisa de um nome</translation>
+    </message>
+    <message>
+        <source>a name begins with a letter or _ and goes on with letters, digits and _</source>
+        <translation>um nome começa com uma letra ou _ e continua com letras, dígitos e _</translation>
     </message>
 </context>
 <context>
@@ -1534,8 +1621,12 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>E&amp;ntidade</translation>
     </message>
     <message>
-        <source>Files of this kind cannot be read yet; open a CSV file or a list of lookups.</source>
-        <translation>Ainda não é possível ler arquivos deste tipo; abra um arquivo CSV ou uma lista de tabelas de referência.</translation>
+        <source>Labels in the &amp;tree</source>
+        <translation>Ró&amp;tulos na árvore</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
     </message>
 </context>
 <context>
@@ -1719,6 +1810,59 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>change %1 of %2</source>
         <translation>alteração de “%1” em %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::ReadingProgress</name>
+    <message>
+        <source>Reading the records of %1…</source>
+        <translation>Lendo os registros de %1…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Leitura</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecordingDelegate</name>
+    <message>
+        <source>a whole number from %1 to %2 is expected</source>
+        <translation>espera-se um número inteiro de %1 a %2</translation>
+    </message>
+    <message>
+        <source>a number such as 12 or -0.5 is expected</source>
+        <translation>espera-se um número como 12 ou -0.5</translation>
+    </message>
+    <message>
+        <source>the rules of the dictionary do not allow it</source>
+        <translation>as regras do dicionário não o permitem</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken: %2. Correct it, or press Esc to give it up.</source>
+        <translation>“%1” não foi aceito: %2. Corrija-o ou pressione Esc para descartá-lo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not taken (%2): %3. It can be copied from here.</source>
+        <translation>“%1” não foi aceito (%2): %3. O texto pode ser copiado daqui.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::editor::RecoveryBar</name>
+    <message>
+        <source>Open &amp;it</source>
+        <translation>&amp;Abri-lo</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>A&amp;gora não</translation>
+    </message>
+    <message>
+        <source>An earlier session ended without saving a dictionary that has no file yet.</source>
+        <translation>Uma sessão anterior terminou sem salvar um dicionário que ainda não tem arquivo.</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2325,17 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <source>rename %1</source>
         <translation>mudança de nome de %1</translation>
     </message>
+    <message>
+        <source>a tag is a whole number</source>
+        <translation>um Tag é um número inteiro</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lookups were not added: %1 is not selectable. Mark it as selectable, or choose another entity.</source>
+        <translation>
+            <numerusform>%n tabela de referência não foi adicionada: %1 não é selecionável. Marque essa entidade como selecionável ou escolha outra.</numerusform>
+            <numerusform>%n tabelas de referência não foram adicionadas: %1 não é selecionável. Marque essa entidade como selecionável ou escolha outra.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor::VariablesPage</name>
@@ -2292,6 +2447,471 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources</name>
+    <message>
+        <source>cannot be read: it is a folder; name a file</source>
+        <translation>não pode ser lido: é uma pasta; indique um arquivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is no regular file; save its content in a file and name that</source>
+        <translation>não pode ser lido: não é um arquivo comum; salve seu conteúdo em um arquivo e indique esse arquivo</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>is empty; expected a file with data</source>
+        <translation>está vazio; esperava-se um arquivo com dados</translation>
+    </message>
+    <message>
+        <source>a text file</source>
+        <translation>um arquivo de texto</translation>
+    </message>
+    <message>
+        <source>an SPSS file</source>
+        <translation>um arquivo do SPSS</translation>
+    </message>
+    <message>
+        <source>an encrypted SPSS file</source>
+        <translation>um arquivo do SPSS criptografado</translation>
+    </message>
+    <message>
+        <source>an SPSS portable file</source>
+        <translation>um arquivo portátil do SPSS</translation>
+    </message>
+    <message>
+        <source>a Stata file</source>
+        <translation>um arquivo do Stata</translation>
+    </message>
+    <message>
+        <source>a SAS file</source>
+        <translation>um arquivo do SAS</translation>
+    </message>
+    <message>
+        <source>a SAS catalogue</source>
+        <translation>um catálogo do SAS</translation>
+    </message>
+    <message>
+        <source>a SAS transport file</source>
+        <translation>um arquivo de transporte do SAS</translation>
+    </message>
+    <message>
+        <source>a file of an unknown kind</source>
+        <translation>um arquivo de tipo desconhecido</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CategoriesText</name>
+    <message numerus="yes">
+        <source>%n empty codes are left out with their labels, because a category needs a code</source>
+        <translation>
+            <numerusform>%n código vazio é deixado de fora com seu rótulo, porque uma categoria precisa de um código</numerusform>
+            <numerusform>%n códigos vazios são deixados de fora com seus rótulos, porque uma categoria precisa de um código</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n codes are left out, because a category&apos;s code cannot hold a blank: %1</source>
+        <translation>
+            <numerusform>%n código é deixado de fora, porque o código de uma categoria não pode conter espaços: %1</numerusform>
+            <numerusform>%n códigos são deixados de fora, porque o código de uma categoria não pode conter espaços: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>tabs and line ends in %n labels became blanks</source>
+        <translation>
+            <numerusform>as tabulações e quebras de linha de %n rótulo viraram espaços</numerusform>
+            <numerusform>as tabulações e quebras de linha de %n rótulos viraram espaços</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CodeTexts</name>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2 and the not-applicable code is %3 instead of %4</source>
+        <translation>conforme a fonte declara, o código de ausente é %1 em vez de %2 e o código de não se aplica é %3 em vez de %4</translation>
+    </message>
+    <message>
+        <source>as the source declares, the missing code is %1 instead of %2</source>
+        <translation>conforme a fonte declara, o código de ausente é %1 em vez de %2</translation>
+    </message>
+    <message>
+        <source>as the source declares, the not-applicable code is %1 instead of %2</source>
+        <translation>conforme a fonte declara, o código de não se aplica é %1 em vez de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::Completeness</name>
+    <message>
+        <source>does not hold the value labels &quot;%1&quot; of the variable %2: it was cut off or saved without them; get the whole file</source>
+        <translation>não contém os rótulos de valor “%1” da variável %2: foi truncado ou salvo sem eles; obtenha o arquivo completo</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off; get the whole file</source>
+        <translation>termina cedo demais: foi truncado; obtenha o arquivo completo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvCells</name>
+    <message>
+        <source>The file is marked as UTF-8 but holds other bytes; it was read as Windows-1252.</source>
+        <translation>O arquivo está marcado como UTF-8, mas contém outros bytes; foi lido como Windows-1252.</translation>
+    </message>
+    <message>
+        <source>1 cell is not in UTF-8 as others are; it was read as Windows-1252.</source>
+        <translation>1 célula não está em UTF-8 como as outras; foi lida como Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells are not in UTF-8 as others are; they were read as Windows-1252.</source>
+        <translation>
+            <numerusform>%n célula não está em UTF-8 como as outras; foi lida como Windows-1252.</numerusform>
+            <numerusform>%n células não estão em UTF-8 como as outras; foram lidas como Windows-1252.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 cell holds what is no text in %1; choose another encoding if it matters.</source>
+        <translation>1 célula contém algo que não é texto em %1; escolha outra codificação se isso for importante.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cells hold what is no text in %1; choose another encoding if it matters.</source>
+        <translation>
+            <numerusform>%n célula contém algo que não é texto em %1; escolha outra codificação se isso for importante.</numerusform>
+            <numerusform>%n células contêm algo que não é texto em %1; escolha outra codificação se isso for importante.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumn</name>
+    <message>
+        <source>No value was found; the type STRING is a guess.</source>
+        <translation>Nenhum valor foi encontrado; o tipo STRING é uma suposição.</translation>
+    </message>
+    <message>
+        <source>Its numbers have a decimal comma; they were read as if it were a point.</source>
+        <translation>Seus números têm vírgula decimal; foram lidos como se fosse um ponto.</translation>
+    </message>
+    <message>
+        <source>1 value holds blanks and is no category: a code cannot hold them.</source>
+        <translation>1 valor contém espaços e não é uma categoria: um código não pode contê-los.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values hold blanks and are no categories: a code cannot hold them.</source>
+        <translation>
+            <numerusform>%n valor contém espaços e não é uma categoria: um código não pode contê-los.</numerusform>
+            <numerusform>%n valores contêm espaços e não são categorias: um código não pode contê-los.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvColumns</name>
+    <message>
+        <source>1 record, in line %1, has more or fewer cells than the header has fields.</source>
+        <translation>1 registro, na linha %1, tem mais ou menos células do que o cabeçalho tem campos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records have more or fewer cells than the header has fields, the first of them in line %1.</source>
+        <translation>
+            <numerusform>%n registro tem mais ou menos células do que o cabeçalho tem campos; está na linha %1.</numerusform>
+            <numerusform>%n registros têm mais ou menos células do que o cabeçalho tem campos; o primeiro está na linha %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvHeader</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e mais %n</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 field has no name and is called %1.</source>
+        <translation>1 campo não tem nome e se chama %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have no name and are called %1.</source>
+        <translation>
+            <numerusform>%n campo não tem nome e se chama %1.</numerusform>
+            <numerusform>%n campos não têm nome e se chamam %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields have the name %1.</source>
+        <translation>
+            <numerusform>%n campo tem o nome %1.</numerusform>
+            <numerusform>%n campos têm o nome %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names belong to more than one field: %1.</source>
+        <translation>
+            <numerusform>%n nome pertence a mais de um campo: %1.</numerusform>
+            <numerusform>%n nomes pertencem a mais de um campo: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::CsvReader</name>
+    <message>
+        <source>ends in the middle of a character; it may have been cut off</source>
+        <translation>termina no meio de um caractere; pode ter sido truncado</translation>
+    </message>
+    <message>
+        <source>is no text file: it holds zero bytes; expected a CSV file in UTF-8, in UTF-16 with a byte-order mark or in Windows-1252</source>
+        <translation>não é um arquivo de texto: contém bytes nulos; esperava-se um arquivo CSV em UTF-8, em UTF-16 com marca de ordem de bytes ou em Windows-1252</translation>
+    </message>
+    <message>
+        <source>has no end of its header within %1 MiB; close its quotation marks, or choose another file</source>
+        <translation>não tem o fim do cabeçalho nos primeiros %1 MiB; feche as aspas ou escolha outro arquivo</translation>
+    </message>
+    <message>
+        <source>has more than %1 fields in its first line; expected fewer</source>
+        <translation>tem mais de %1 campos na primeira linha; esperavam-se menos</translation>
+    </message>
+    <message>
+        <source>has names of fields that are no text in %1; choose another encoding</source>
+        <translation>tem nomes de campos que não são texto em %1; escolha outra codificação</translation>
+    </message>
+    <message>
+        <source>The names stand in line %1, below empty lines.</source>
+        <translation>Os nomes estão na linha %1, abaixo de linhas vazias.</translation>
+    </message>
+    <message>
+        <source>has a quotation mark in field %1 of its header that is never closed; close it in the file, or choose another separator</source>
+        <translation>tem no campo %1 do cabeçalho aspas que não são fechadas; feche-as no arquivo ou escolha outro separador</translation>
+    </message>
+    <message>
+        <source>is empty; expected the names of fields in its first line</source>
+        <translation>está vazio; esperavam-se os nomes dos campos na primeira linha</translation>
+    </message>
+    <message>
+        <source>has a record of more than %1 MiB, which begins in line %2; close its quotation marks, or choose another separator</source>
+        <translation>tem um registro de mais de %1 MiB, que começa na linha %2; feche as aspas ou escolha outro separador</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 has a quotation mark that is never closed; it was left out.</source>
+        <translation>O registro que começa na linha %1 tem aspas que não são fechadas; foi deixado de fora.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a character; it may have been cut off.</source>
+        <translation>O arquivo termina no meio de um caractere; pode ter sido truncado.</translation>
+    </message>
+    <message>
+        <source>cannot be taken apart at the separator %1; choose a comma, a semicolon, a tab or a bar</source>
+        <translation>não pode ser dividido pelo separador %1; escolha uma vírgula, um ponto e vírgula, uma tabulação ou uma barra vertical</translation>
+    </message>
+    <message>
+        <source>cannot be read in %1, which is no known encoding; choose another</source>
+        <translation>não pode ser lido em %1, que não é uma codificação conhecida; escolha outra</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: it is a folder; choose a file</source>
+        <translation>não pode ser lido: é uma pasta; escolha um arquivo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::FieldMaker</name>
+    <message>
+        <source>texts of more than %1 characters were cut there</source>
+        <translation>os textos de mais de %1 caracteres foram cortados nesse ponto</translation>
+    </message>
+    <message>
+        <source>the value labels of the format %1 are not in the catalogue</source>
+        <translation>os rótulos de valor do formato %1 não estão no catálogo</translation>
+    </message>
+    <message>
+        <source>is a date of the format %1 and stays a number</source>
+        <translation>é uma data no formato %1 e continua como número</translation>
+    </message>
+    <message>
+        <source>is a text of any length, for which no size is declared</source>
+        <translation>é um texto de qualquer comprimento, para o qual nenhum tamanho é declarado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out with their labels, because a category&apos;s code is a number or a text: %1</source>
+        <translation>
+            <numerusform>%n código de ausente é deixado de fora com seu rótulo, porque o código de uma categoria é um número ou um texto: %1</numerusform>
+            <numerusform>%n códigos de ausente são deixados de fora com seus rótulos, porque o código de uma categoria é um número ou um texto: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the range from %1 to %2 is left out: a field carries whole numbers from %3 to %4</source>
+        <translation>o intervalo de %1 a %2 é deixado de fora: um campo só admite números inteiros de %3 a %4</translation>
+    </message>
+    <message>
+        <source>the value labels &quot;%1&quot; are not in the file</source>
+        <translation>os rótulos de valor “%1” não estão no arquivo</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::MissingCodes</name>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries whole numbers: %1</source>
+        <translation>
+            <numerusform>%n código de ausente é deixado de fora, porque um campo só admite números inteiros: %1</numerusform>
+            <numerusform>%n códigos de ausente são deixados de fora, porque um campo só admite números inteiros: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the missing code %1 is left out: a field carries whole numbers from %2 to %3</source>
+        <translation>o código de ausente %1 é deixado de fora: um campo só admite números inteiros de %2 a %3</translation>
+    </message>
+    <message>
+        <source>the missing values up to %1 are left out: a field carries single codes</source>
+        <translation>os valores ausentes até %1 são deixados de fora: um campo só admite códigos individuais</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out: a field carries single codes</source>
+        <translation>os valores ausentes a partir de %1 são deixados de fora: um campo só admite códigos individuais</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out: a field carries single codes</source>
+        <translation>os valores ausentes de %1 a %2 são deixados de fora: um campo só admite códigos individuais</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing codes are left out, because a field carries two: %1</source>
+        <translation>
+            <numerusform>%n código de ausente é deixado de fora, porque um campo só admite dois: %1</numerusform>
+            <numerusform>%n códigos de ausente são deixados de fora, porque um campo só admite dois: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SasCatalogue</name>
+    <message>
+        <source>its catalogue %1 %2</source>
+        <translation>seu catálogo %1 %2</translation>
+    </message>
+    <message>
+        <source>There are no value labels: the catalogue %1 %2.</source>
+        <translation>Não há rótulos de valor: o catálogo %1 %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The value labels of %n formats stand in a catalogue (.sas7bcat) that was not found; name it, or put it beside the file under the same name: %1.</source>
+        <translation>
+            <numerusform>Os rótulos de valor de %n formato (%1) estão em um catálogo (.sas7bcat) que não foi encontrado; indique-o ou coloque-o junto do arquivo com o mesmo nome.</numerusform>
+            <numerusform>Os rótulos de valor de %n formatos (%1) estão em um catálogo (.sas7bcat) que não foi encontrado; indique-o ou coloque-o junto do arquivo com o mesmo nome.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>is no SAS catalogue by its content</source>
+        <translation>não é, pelo conteúdo, um catálogo do SAS</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read</source>
+        <translation>está danificado e não pode ser lido</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::SourceReader</name>
+    <message>
+        <source>is encrypted; save it without a password</source>
+        <translation>está criptografado; salve-o sem senha</translation>
+    </message>
+    <message>
+        <source>is a SAS catalogue, which holds value labels and no fields; open the .sas7bdat file that it belongs to</source>
+        <translation>é um catálogo do SAS, que contém rótulos de valor e nenhum campo; abra o arquivo .sas7bdat a que ele pertence</translation>
+    </message>
+    <message>
+        <source>is of a kind that cannot be read; expected a file whose name ends in .%1</source>
+        <translation>é de um tipo que não pode ser lido; esperava-se um arquivo cujo nome termine em .%1</translation>
+    </message>
+    <message>
+        <source>is not %1 by its content, though its name ends in .%2; it is damaged or of another kind</source>
+        <translation>não é, pelo conteúdo, %1, embora seu nome termine em .%2; está danificado ou é de outro tipo</translation>
+    </message>
+    <message>
+        <source>is %1 by its content, though its name ends in .%2; rename it to end in .%3</source>
+        <translation>é, pelo conteúdo, %1, embora seu nome termine em .%2; renomeie-o para que termine em .%3</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalProblem</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>is of a version of its format that cannot be read; save it in another version</source>
+        <translation>é de uma versão de seu formato que não pode ser lida; salve-o em outra versão</translation>
+    </message>
+    <message>
+        <source>is compressed in a way that cannot be read; save it without compression</source>
+        <translation>está compactado de uma forma que não pode ser lida; salve-o sem compactação</translation>
+    </message>
+    <message>
+        <source>ends too early: it was cut off or is damaged; get the whole file</source>
+        <translation>termina cedo demais: foi truncado ou está danificado; obtenha o arquivo completo</translation>
+    </message>
+    <message>
+        <source>is damaged: it declares something larger than can be; get the file again</source>
+        <translation>está danificado: declara algo maior do que é possível; obtenha o arquivo de novo</translation>
+    </message>
+    <message>
+        <source>is damaged and cannot be read; get the file again</source>
+        <translation>está danificado e não pode ser lido; obtenha o arquivo de novo</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1; choose another one</source>
+        <translation>contém textos que não estão na codificação %1; escolha outra</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding that it declares; choose the encoding</source>
+        <translation>contém textos que não estão na codificação que ele declara; escolha a codificação</translation>
+    </message>
+    <message>
+        <source>holds texts that are not in the encoding %1, which it declares; choose another one</source>
+        <translation>contém textos que não estão na codificação %1, que ele declara; escolha outra</translation>
+    </message>
+    <message>
+        <source>declares the encoding %1, which is not known; choose another one</source>
+        <translation>declara a codificação %1, que não é conhecida; escolha outra</translation>
+    </message>
+    <message>
+        <source>cannot be read in the encoding %1, which is not known; choose another one</source>
+        <translation>não pode ser lido na codificação %1, que não é conhecida; escolha outra</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::StatisticalReader</name>
+    <message>
+        <source>holds no variables; expected at least one</source>
+        <translation>não contém variáveis; esperava-se pelo menos uma</translation>
+    </message>
+    <message>
+        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
+        <translation>Alguns textos não são UTF-8 válido e foram lidos como Windows-1252.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 records.</source>
+        <translation>As categorias e os intervalos vêm dos primeiros %1 registros.</translation>
+    </message>
+    <message>
+        <source>Categories and ranges come from the first %1 of %2 records.</source>
+        <translation>As categorias e os intervalos vêm dos primeiros %1 de %2 registros.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::sources::VariableMerge</name>
+    <message>
+        <source>an earlier field, %1, gives %2 a variable %3 too</source>
+        <translation>um campo anterior, %1, também dá a %2 uma variável %3</translation>
+    </message>
+    <message>
+        <source>%1 has the variable %2 already, with the same alias, label and group</source>
+        <translation>%1 já tem a variável %2, com o mesmo alias, o mesmo rótulo e o mesmo grupo</translation>
+    </message>
+    <message>
+        <source>%1 has a variable %2 already, with another alias, label or group</source>
+        <translation>%1 já tem uma variável %2, com outro alias, outro rótulo ou outro grupo</translation>
     </message>
 </context>
 </TS>
