@@ -1,5 +1,6 @@
 // The editor's start, a keystroke in its search field and its memory, as shares of what a bare window, Qt's
-// own proxy and the file take in the same run. Usage: bench_editor EDITOR BARE_WINDOW [DICTIONARY]
+// own proxy and the file take in the same run. Usage: bench_editor
+// EDITOR BARE_WINDOW TESSEL BARE_CONSOLE [DICTIONARY]
 
 #include "bench/Measure.h"
 #include "business/models/VariableDiccionaryModel.h"
@@ -38,7 +39,10 @@ double startOf(const QString &program, const QStringList &arguments)
     for (int i = 0; i < kRounds; ++i) {
         QElapsedTimer timer;
         timer.start();
-        if (QProcess::execute(program, arguments) != 0) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program, arguments);
+        if (!process.waitForFinished() || process.exitCode() != 0) {
             std::fprintf(stderr, "%s does not run\n", qPrintable(program));
             std::exit(1);
         }
@@ -104,14 +108,19 @@ int main(int argc, char **argv)
     QStandardPaths::setTestModeEnabled(true);
     QApplication::setOrganizationName(QStringLiteral("Tessel-bench"));
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 3) {
-        std::fprintf(stderr, "Usage: bench_editor EDITOR BARE_WINDOW [DICTIONARY]\n");
+    if (arguments.size() < 5) {
+        std::fprintf(stderr, "Usage: bench_editor EDITOR BARE_WINDOW TESSEL BARE_CONSOLE [DICTIONARY]\n");
         return 2;
     }
-    const QString file = arguments.value(3, QStringLiteral("samples/census.json"));
+    const QString file = arguments.value(5, QStringLiteral("samples/census.json"));
     const double bare = startOf(arguments.at(2), {});
     const double editor = startOf(arguments.at(1), {QStringLiteral("--exit-when-shown"), file});
     printRow("start of the editor with a dictionary / bare window", editor * 1e3, bare * 1e3, "ms", 3.0);
+    const double console = startOf(arguments.at(4), {});
+    const double version = startOf(arguments.at(3), {QStringLiteral("--version")});
+    printRow("start of the command line / bare program", version * 1e3, console * 1e3, "ms");
+    const double check = startOf(arguments.at(3), {QStringLiteral("show"), file});
+    printRow("tessel show of the dictionary / bare program", check * 1e3, console * 1e3, "ms");
 
     {
         const std::unique_ptr<TDmEntity> entity = newEntity();

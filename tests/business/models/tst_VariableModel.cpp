@@ -66,6 +66,15 @@ private slots:
         QVERIFY(!age.data(Qt::CheckStateRole).isValid());
         QVERIFY(!model.setData(age, Qt::Checked, Qt::CheckStateRole));
     }
+
+    void aTickIsKeptAsOne()
+    {
+        Variables variables("AGE");
+        variables.list.first()->setLevel(1);
+        VariableModel model(nullptr, nullptr, &variables.list);
+        QVERIFY(model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+        QCOMPARE(variables.list.first()->getChecked(), 1);
+    }
 };
 
 QTEST_MAIN(tst_VariableModel)

@@ -55,6 +55,7 @@ private slots:
         QVERIFY(!(model.flags(age) & Qt::ItemIsUserCheckable));
         QCOMPARE(age.data(Qt::CheckStateRole), QVariant(Qt::Unchecked));
         QVERIFY(model.setData(age, Qt::Checked, Qt::CheckStateRole));
+        QCOMPARE(variables.list.first()->getChecked(), 1);
         QCOMPARE(age.data(Qt::CheckStateRole), QVariant(Qt::Checked));
     }
 };
