@@ -2,9 +2,8 @@
 
 #include "cli/Output.h"
 #include "cli/Program.h"
-#include "documents/DocumentFile.h"
-#include "documents/DocumentForm.h"
 #include "documents/Findings.h"
+#include "documents/OpenedDocument.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -20,16 +19,16 @@ QString tr(const char *text) { return QCoreApplication::translate("tessel::cli",
 /// The findings of \a file; nothing, once said why, when there is no dictionary to judge.
 std::optional<QVector<documents::Finding>> findingsOf(const QString &file)
 {
-    const documents::Outcome<QJsonObject> document = documents::readObject(file);
+    const documents::Outcome<documents::OpenedDocument> document = documents::openFile(file);
     if (!document.result) {
         printProblem(file, document.problem);
         return std::nullopt;
     }
-    if (documents::kindOf(*document.result) == documents::DocumentKind::Run) {
+    if (document.result->run) {
         printAbout(file, tr("is a run configuration; only dictionaries are checked"));
         return std::nullopt;
     }
-    return documents::findingsIn(*documents::readDictionary(*document.result));
+    return documents::findingsIn(*document.result->dictionary);
 }
 
 QJsonObject jsonOf(const QString &file, const documents::Finding &finding)

@@ -6,6 +6,7 @@
 #include "documents/DocumentFile.h"
 #include "documents/DocumentForm.h"
 #include "documents/Losses.h"
+#include "documents/OpenedDocument.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -68,6 +69,11 @@ public:
             return Failure;
         }
         before = *read.result;
+        // Most files are in normal form already, and then there is nothing to look for.
+        if (documents::isKeptAsItIs(before)) {
+            after = before;
+            return finish(0);
+        }
         const documents::Outcome<QJsonObject> parsed = documents::parseObject(before);
         if (!parsed.result) {
             printProblem(file, parsed.problem);
@@ -76,11 +82,16 @@ public:
         after = documents::normalForm(*parsed.result);
         const QVector<documents::Loss> losses = documents::lossesOf(before, *parsed.result, after);
         printLosses(file, losses);
-        const int status = options.check || options.diff ? compare() : write(losses.size());
-        return losses.isEmpty() ? status : std::max<int>(status, Findings);
+        return finish(losses.size());
     }
 
 private:
+    int finish(int losses)
+    {
+        const int status = options.check || options.diff ? compare() : write(losses);
+        return losses == 0 ? status : std::max<int>(status, Findings);
+    }
+
     int compare()
     {
         if (before == after)

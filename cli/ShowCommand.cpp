@@ -6,8 +6,8 @@
 #include "cli/ShowRun.h"
 #include "cli/TextTable.h"
 #include "business/ProcessDictionaryBusiness.h"
-#include "documents/DocumentFile.h"
 #include "documents/DocumentForm.h"
+#include "documents/OpenedDocument.h"
 #include "model/MetadataVariables.h"
 #include "model/Range.h"
 #include "model/TDmVariable.h"
@@ -224,14 +224,14 @@ int showDictionary(const QString &file, TDmEntity &root, const QString &path, bo
 
 int showDocument(const QString &file, const QString &path, bool json)
 {
-    const documents::Outcome<QJsonObject> parsed = documents::readObject(file);
-    if (!parsed.result) {
-        printProblem(file, parsed.problem);
+    const documents::Outcome<documents::OpenedDocument> document = documents::openFile(file);
+    if (!document.result) {
+        printProblem(file, document.problem);
         return Failure;
     }
-    if (documents::kindOf(*parsed.result) == documents::DocumentKind::Run)
-        return showRun(file, *documents::readRun(*parsed.result), path, json);
-    return showDictionary(file, *documents::readDictionary(*parsed.result), path, json);
+    if (document.result->run)
+        return showRun(file, *document.result->run, path, json);
+    return showDictionary(file, *document.result->dictionary, path, json);
 }
 
 } // namespace tessel::cli

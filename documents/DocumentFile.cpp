@@ -66,7 +66,9 @@ Outcome<QByteArray> readFile(const QString &name)
     QByteArray bytes;
     while (true) {
         constexpr qint64 piece = 1024 * 1024;
-        const QByteArray more = file.read(qMax(piece, qMin(file.bytesAvailable(), kLargestFile)));
+        // What is left free behind the bytes spares readers that look at whole blocks a copy.
+        constexpr qint64 spare = 64;
+        const QByteArray more = file.read(qMax(piece, qMin(file.bytesAvailable(), kLargestFile)) + spare);
         if (more.isEmpty())
             break;
         if (bytes.size() + qint64(more.size()) > kLargestFile)

@@ -2,6 +2,7 @@
 
 #include "business/ProcessDictionaryBusiness.h"
 #include "business/RunCreationBusiness.h"
+#include "documents/QuickWriter.h"
 #include "model/TDmVariable.h"
 #include "model/ValueLabelElement.h"
 
@@ -97,6 +98,12 @@ std::unique_ptr<Config> readRun(const QJsonObject &document)
 }
 
 QByteArray dictionaryText(TDmEntity &root)
+{
+    const std::optional<QByteArray> text = textQuickly(root);
+    return text ? *text : dictionaryTextOfLibrary(root);
+}
+
+QByteArray dictionaryTextOfLibrary(TDmEntity &root)
 {
     QJsonObject out;
     ProcessDictionaryBusiness().getStructuraTreeRootToJson(&root, &out);

@@ -32,6 +32,10 @@ QByteArray dictionaryText(TDmEntity &root);
 /// form of the type that is written.
 QByteArray settledText(TDmEntity &root);
 
+/// The same, made by the library's writer and QJsonDocument: several times slower, and the measure for the
+/// former.
+QByteArray dictionaryTextOfLibrary(TDmEntity &root);
+
 /// \a config as a document in normal form.
 QByteArray runText(Config &config);
 

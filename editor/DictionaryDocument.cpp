@@ -1,11 +1,15 @@
 #include "editor/DictionaryDocument.h"
 
 #include "documents/DocumentForm.h"
+#include "documents/OpenedDocument.h"
+#include "documents/QuickWriter.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
 
 #include <QFileInfo>
 #include <QVector>
+
+#include <utility>
 
 namespace tessel::editor {
 namespace {
@@ -91,14 +95,16 @@ std::optional<documents::FileProblem> DictionaryDocument::read(const QString &so
     const documents::Outcome<QByteArray> bytes = documents::readFile(source);
     if (!bytes.result)
         return bytes.problem;
-    const documents::Outcome<QJsonObject> object = documents::parseObject(*bytes.result);
-    if (!object.result)
-        return object.problem;
-    if (documents::kindOf(*object.result) == documents::DocumentKind::Run)
+    documents::Outcome<documents::OpenedDocument> opened = documents::openDocument(*bytes.result);
+    if (!opened.result)
+        return opened.problem;
+    if (opened.result->run)
         return documents::FileProblem{
             tr("is a run configuration, not a dictionary; open it with Run, Open run"), 0, 0};
-    std::unique_ptr<TDmEntity> tree = documents::readDictionary(*object.result);
-    replaceTree(tree.release(), name, bytes.result);
+    std::unique_ptr<TDmEntity> tree = std::move(opened.result->dictionary);
+    // What saving writes as it was has no losses to look for, and need not be kept for that.
+    const bool isKept = opened.result->isPlain && documents::isWrittenAs(*tree, *bytes.result);
+    replaceTree(tree.release(), name, isKept ? std::nullopt : bytes.result);
     return std::nullopt;
 }
 

@@ -200,6 +200,19 @@ private slots:
         QVERIFY(contentOf(at("g.json")).contains("\"ENTITY_1\""));
     }
 
+    /// Written as it is, byte for byte, and still no JSON for other programs.
+    void whatIsWrittenAsItIsMayBeIrregular()
+    {
+        const QByteArray text = dictionaryOf("F").replace("\"F\"", "\"\\ud800\"");
+        QVERIFY(put(at("f.json"), text));
+        DictionaryDocument document;
+        QCOMPARE(told(document.open(at("f.json"))), QStringLiteral("done"));
+        QCOMPARE(document.losses().size(), 1);
+        QCOMPARE(document.losses().first().kind, documents::Loss::Irregular);
+        QCOMPARE(told(document.save(at("g.json"))), QStringLiteral("done"));
+        QCOMPARE(contentOf(at("g.json")), text);
+    }
+
     void lossesOutliveAFailureButNotASuccess()
     {
         QVERIFY(put(at("f.json"), lossyDictionaryOf("F")));

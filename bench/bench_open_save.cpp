@@ -1,0 +1,213 @@
+// How long it takes, and how much memory, to open and save dictionaries: the programs' way as shares of the
+// way through Qt's JSON objects, and of two parsers that put the same documents into plain structs. Memory is
+// the peak of a process that does one thing.
+
+#include "bench/GeneratedDictionary.h"
+#include "bench/Measure.h"
+#include "bench/PlainDictionary.h"
+#include "documents/DocumentForm.h"
+#include "documents/OpenedDocument.h"
+#include "documents/QuickReader.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace docs = tessel::documents;
+namespace bench = tessel::bench;
+
+struct Document {
+    std::string title;
+    int variables = 0;
+    QByteArray text;
+};
+
+std::unique_ptr<TDmEntity> openLongWay(const QByteArray &text)
+{
+    return docs::readDictionary(*docs::parseObject(text).result);
+}
+
+std::unique_ptr<TDmEntity> openQuickly(const QByteArray &text)
+{
+    return std::move(docs::openDocument(text).result->dictionary);
+}
+
+/// What is measured of each document.
+struct Way {
+    const char *name;
+    void (*measure)(benchmark::State &state, const Document &document);
+    void (*once)(const QByteArray &text); ///< For the peak of memory; null for what only the time matters of.
+};
+
+template<typename Work>
+void timed(benchmark::State &state, Work &&work)
+{
+    bench::measure(state, work, bench::settle);
+}
+
+const Way kWays[] = {
+    {"open, long way",
+        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openLongWay(d.text); }); },
+        [](const QByteArray &text) { benchmark::DoNotOptimize(openLongWay(text).release()); }},
+    {"open",
+        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openQuickly(d.text); }); },
+        [](const QByteArray &text) { benchmark::DoNotOptimize(openQuickly(text).release()); }},
+    {"save, long way",
+        [](benchmark::State &state, const Document &d) {
+            const auto root = openQuickly(d.text);
+            timed(state, [&] { return docs::dictionaryTextOfLibrary(*root); });
+        },
+        nullptr},
+    {"save",
+        [](benchmark::State &state, const Document &d) {
+            const auto root = openQuickly(d.text);
+            timed(state, [&] { return docs::dictionaryText(*root); });
+        },
+        nullptr},
+    {"nlohmann",
+        [](benchmark::State &state, const Document &d) {
+            timed(state, [&] { return bench::plainByNlohmann(d.text); });
+        },
+        [](const QByteArray &text) {
+            benchmark::DoNotOptimize(new bench::PlainEntity(bench::plainByNlohmann(text)));
+        }},
+    {"simdjson",
+        [](benchmark::State &state, const Document &d) {
+            timed(state, [&] { return bench::plainBySimdjson(d.text); });
+        },
+        [](const QByteArray &text) {
+            benchmark::DoNotOptimize(new bench::PlainEntity(bench::plainBySimdjson(text)));
+        }},
+    {"text alone", nullptr, [](const QByteArray &) {}},
+};
+
+/// Opens the file \a name the way numbered \a way and prints the peak of the process's memory in KiB.
+int printPeak(const char *way, const char *name)
+{
+    const docs::Outcome<QByteArray> text = docs::readFile(QString::fromLocal8Bit(name));
+    if (!text.result)
+        return 1;
+    kWays[QByteArray(way).toInt()].once(*text.result);
+    // Not getrusage(): its peak goes on from that of the process that started this one.
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 1;
+    const QByteArray all = status.readAll();
+    const int peak = all.indexOf("VmHWM:") + 6;
+    std::printf("%d\n", all.mid(peak, all.indexOf("kB", peak) - peak).trimmed().toInt());
+    std::fflush(stdout);
+    // Freeing the tree is not part of it.
+    std::_Exit(0);
+}
+
+/// In MiB.
+double peakOf(const char *program, int way, const QString &file)
+{
+    QProcess child;
+    child.start(QString::fromLocal8Bit(program), {QStringLiteral("--peak"), QString::number(way), file});
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().trimmed().toDouble() / 1024;
+}
+
+double of(const std::map<std::string, double> &seconds, const char *way, const Document &document)
+{
+    // A filter on the command line may have left it out.
+    const auto found = seconds.find(way + (' ' + document.title));
+    return found == seconds.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;
+}
+
+constexpr double kShare = 1.0 / 3; // Of the long way, that opening and saving may take.
+
+void printTimes(const std::vector<Document> &documents, const std::map<std::string, double> &seconds)
+{
+    const auto row = [&](const char *what, const char *peer, const Document &d, double limit) {
+        bench::printRow(std::string(what) + " / " + peer + ": " + d.title, of(seconds, what, d) * 1e3,
+            of(seconds, peer, d) * 1e3, "ms", limit);
+    };
+    for (const Document &d : documents) {
+        row("open", "open, long way", d, kShare);
+        row("save", "save, long way", d, kShare);
+        row("open", "nlohmann", d, 0);
+        row("open", "simdjson", d, 0);
+    }
+    for (const char *what : {"open", "save"}) {
+        for (const char *form : {" compact", " normal"}) {
+            const auto perVariable = [&](int variables) {
+                return seconds.at(what + (" " + std::to_string(variables)) + form) * 1e9 / variables;
+            };
+            bench::printRow(std::string(what) + " a variable, of 100,000 / of 1,000," + form,
+                perVariable(100'000), perVariable(1'000), "ns");
+        }
+    }
+}
+
+void printPeaks(const char *program, const std::vector<Document> &documents)
+{
+    const QTemporaryDir folder;
+    for (const Document &document : documents) {
+        const QString file = folder.filePath(QStringLiteral("document.json"));
+        QFile out(file);
+        if (!out.open(QIODevice::WriteOnly) || out.write(document.text) != document.text.size())
+            return;
+        out.close();
+        std::map<std::string, double> peaks;
+        for (std::size_t way = 0; way < std::size(kWays); ++way) {
+            if (kWays[way].once)
+                peaks[kWays[way].name] = peakOf(program, int(way), file);
+        }
+        for (const char *peer : {"open, long way", "nlohmann", "simdjson"}) {
+            bench::printRow("peak of memory, open / " + std::string(peer) + ": " + document.title,
+                peaks["open"], peaks[peer], "MiB", peer == std::string("open, long way") ? kShare : 0);
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc == 4 && QByteArray(argv[1]) == "--peak")
+        return printPeak(argv[2], argv[3]);
+    // What a round frees stays with the process, as in the other benchmarks of documents.
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    std::vector<Document> documents;
+    for (int variables : {1000, 10000, 100000}) {
+        const QByteArray compact = bench::generatedDictionary(variables);
+        const std::unique_ptr<TDmEntity> root = docs::readQuickly(compact);
+        if (!root)
+            return 1;
+        documents.push_back({std::to_string(variables) + " compact", variables, compact});
+        documents.push_back({std::to_string(variables) + " normal", variables, docs::dictionaryText(*root)});
+    }
+    for (const Document &document : documents) {
+        for (const Way &way : kWays) {
+            if (!way.measure)
+                continue;
+            benchmark::RegisterBenchmark((way.name + (' ' + document.title)).c_str(), way.measure, document)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond)
+                ->Iterations(std::clamp(100000 / document.variables, 3, 20));
+        }
+    }
+    benchmark::Initialize(&argc, argv);
+    bench::Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    printTimes(documents, collector.seconds);
+    printPeaks(argv[0], documents);
+    return 0;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "documents/DocumentFile.h"
+#include "model/Config.h"
+#include "model/TDmEntity.h"
+
+#include <QByteArray>
+
+#include <memory>
+
+namespace tessel::documents {
+
+/// What a document's bytes describe: exactly one of the two.
+struct OpenedDocument {
+    std::unique_ptr<TDmEntity> dictionary; ///< As readDictionary() gives it.
+    std::unique_ptr<Config> run; ///< As readRun() gives it.
+
+    /// A plain dictionary: what reading it has dropped or changed shows in the bytes that it is written as.
+    bool isPlain = false;
+};
+
+/// The document that \a bytes hold; the problems are those of parseObject(). Plain dictionaries are read
+/// without Qt's JSON objects.
+Outcome<OpenedDocument> openDocument(const QByteArray &bytes);
+
+/// The document in the file \a name; the problems are those of readObject().
+Outcome<OpenedDocument> openFile(const QString &name);
+
+/// Whether \a bytes hold a dictionary that reading and writing gives back byte for byte, so that nothing in
+/// it is lost. False stands for "not known" as well.
+bool isKeptAsItIs(const QByteArray &bytes);
+
+} // namespace tessel::documents
