@@ -32,9 +32,10 @@ mutate:
 	scripts/build dev
 	scripts/mutate
 
+# BASE names a revision: clang-tidy then looks only at what changed since.
 check:
 	scripts/install-packages check
-	scripts/check
+	scripts/check $(BASE)
 
 format:
 	scripts/install-packages check

@@ -2,8 +2,7 @@
 
 #include "sources/CsvRecords.h"
 #include "sources/CsvText.h"
-
-#include <QTextCodec>
+#include "sources/Decoding.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,21 +13,6 @@ namespace {
 bool isAscii(std::string_view bytes)
 {
     return std::all_of(bytes.cbegin(), bytes.cend(), [](char c) { return static_cast<signed char>(c) >= 0; });
-}
-
-/// The text of \a bytes; nothing when they are no UTF-8.
-std::optional<QString> strictUtf8(std::string_view bytes)
-{
-    static const QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    QString text = codec->toUnicode(bytes.data(), int(bytes.size()), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? std::optional<QString>(text) : std::nullopt;
-}
-
-QString windows1252(std::string_view bytes)
-{
-    static const QTextCodec *const codec = QTextCodec::codecForName("Windows-1252");
-    return codec->toUnicode(bytes.data(), int(bytes.size()));
 }
 
 } // namespace

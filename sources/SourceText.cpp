@@ -1,19 +1,15 @@
 #include "sources/SourceText.h"
 
-#include <QTextCodec>
+#include "sources/Decoding.h"
 
 namespace tessel::sources {
 namespace {
 
 QString decoded(const char *bytes, TextMends &mends)
 {
-    const auto size = int(qstrlen(bytes));
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes, size, &state);
-    if (state.invalidChars == 0 && state.remainingChars == 0)
-        return text;
-    mends.isForeign = true;
-    return QTextCodec::codecForName("Windows-1252")->toUnicode(bytes, size);
+    const std::optional<QString> text = strictUtf8(bytes);
+    mends.isForeign = mends.isForeign || !text;
+    return text ? *text : windows1252(bytes);
 }
 
 } // namespace
