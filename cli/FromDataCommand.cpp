@@ -137,6 +137,7 @@ private:
                 .first->second;
         const int oldClashes = merge.clashes().size();
         const int oldCodes = merge.declaredCodes().size();
+        const int oldNameless = merge.nameless().size();
         notices.append({source.file, noticeOf(source.fields)});
         merge.add(sources::importFields(source.fields));
         const QVector<SourceRemark> clashes = merge.clashes().mid(oldClashes);
@@ -147,6 +148,7 @@ private:
             worst = Findings;
         }
         notices.last().second += merge.declaredCodes().mid(oldCodes);
+        notices.last().second += merge.nameless().mid(oldNameless);
     }
 
     /// \a clash as a sentence, with what becomes of the field.

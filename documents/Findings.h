@@ -36,13 +36,14 @@ struct Finding {
 /// | entity-code-unknown | the variable that holds the entity's code is none of its variables |
 /// | entity-label-unknown | the variable that holds the entity's label is none of its variables |
 /// | entity-weight-unknown | the variable that holds the entity's weight is none of its variables |
+/// | variable-name-empty | a variable's name is empty or blank |
 /// | variable-name-unprintable | a variable's name holds a control character, a double quote or a backslash |
 /// | variable-name-duplicate | a variable's name is that of a variable before it in the entity |
 /// | variable-name-is-entity | a variable's name is that of an entity |
-/// | variable-label-unprintable | a variable's label holds a control character, a double quote or a backslash
-/// | | variable-type-unknown | a variable's type is none of string, integer, real and bool | |
-/// label-code-not-number | a code under a numeric type is no such number and would be saved as 0 | |
-/// range-reversed | a range's minimum is above its maximum |
+/// | variable-label-unprintable | a label holds a control character, a double quote or a backslash |
+/// | variable-type-unknown | a variable's type is none of string, integer, real and bool |
+/// | label-code-not-number | a code under a numeric type is no such number and would be saved as 0 |
+/// | range-reversed | a range's minimum is above its maximum |
 QVector<Finding> findingsIn(TDmEntity &root);
 
 } // namespace tessel::documents

@@ -84,8 +84,10 @@ void VariableFindings::judgeName(const QString &name, QSet<QString> &known)
         add("variable-name-unprintable", QString(),
             tr("a variable's name holds no control character, double quote or backslash"));
     const QString trimmed = name.trimmed();
-    if (trimmed.isEmpty())
+    if (trimmed.isEmpty()) {
+        add("variable-name-empty", QString(), tr("the variable has no name; give it one"));
         return;
+    }
     if (known.contains(trimmed))
         add("variable-name-duplicate", QString(),
             tr("the name is already that of a variable before it; rename one of them"));

@@ -24,23 +24,30 @@ bool hasBlank(const QString &code)
     return std::any_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace(); });
 }
 
-/// A code with its place among others: numbers by their value, texts behind them.
+/// A code with its place among others: numbers by their value, texts behind them. Digits with a zero before
+/// them are no number but stand among the numbers all the same: "09" before "10".
 struct Code {
     explicit Code(const QString &code)
         : text(code)
-        , number(CsvNumber::of(code))
     {
+        const CsvNumber number = CsvNumber::of(code);
+        value = number.value;
+        isText = number.kind == Kind::None;
+        const bool isDigits = std::all_of(code.cbegin(), code.cend(),
+            [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+        if (isText && isDigits) {
+            value = code.toDouble();
+            isText = false;
+        }
     }
 
     bool operator<(const Code &other) const { return place() < other.place(); }
 
-    std::tuple<bool, double, const QString &> place() const
-    {
-        return {number.kind == Kind::None, number.value, text};
-    }
+    std::tuple<bool, double, const QString &> place() const { return {isText, value, text}; }
 
     QString text;
-    CsvNumber number;
+    double value = 0;
+    bool isText = false;
 };
 
 } // namespace

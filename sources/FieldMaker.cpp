@@ -107,7 +107,8 @@ std::unique_ptr<TDmSourceField> FieldMaker::make(int place, const ValueTally *ta
         note(tr("the value labels of the format %1 are not in the catalogue").arg(variable.labelsNotFound));
     if (!variable.labelSet.isEmpty() && !source.labelSets.contains(variable.labelSet))
         note(tr("the value labels \"%1\" are not in the file").arg(variable.labelSet));
-    hasForeign = hasForeign || variable.mends.isForeign || set.mends.isForeign;
+    if (variable.mends.isForeign || set.mends.isForeign)
+        foreign.append(variable.name);
     setType(variable, set.labels, tally);
     setSize(variable, tally);
     setCategories(set.labels, tally);

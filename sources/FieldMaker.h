@@ -8,6 +8,7 @@
 #include "sources/ValueTally.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QVector>
 
 #include <memory>
@@ -28,8 +29,8 @@ public:
     /// What the fields that were made do not carry.
     const QVector<SourceRemark> &remarks() const { return noted; }
 
-    /// Whether one of the fields that were made has a text that is not valid UTF-8.
-    bool hasForeignTexts() const { return hasForeign; }
+    /// The names of the fields that were made and have a text that is not valid UTF-8.
+    const QStringList &foreignFields() const { return foreign; }
 
 private:
     void setType(
@@ -45,7 +46,7 @@ private:
     const StatisticalContent &source;
     QVector<SourceRemark> noted;
     DisplayFormat shown;
-    bool hasForeign = false;
+    QStringList foreign;
     std::unique_ptr<TDmSourceField> field; ///< The one that is being made.
 };
 

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace tessel::sources {
@@ -69,26 +70,49 @@ void MissingCodes::takeCode(double number)
 void MissingCodes::takeRange(const MissingRange &range)
 {
     QVector<int> labelled;
+    bool isAnyLeftOut = false;
     for (const CodeLabel &label : known) {
-        const std::optional<int> code = label.kind == CodeLabel::Kind::Number && range.holds(label.number)
-            ? wholeCode(label.number)
-            : std::nullopt;
+        if (label.kind != CodeLabel::Kind::Number || !range.holds(label.number))
+            continue;
+        const std::optional<int> code = wholeCode(label.number);
+        isAnyLeftOut = isAnyLeftOut || !code;
         if (code && !labelled.contains(*code))
             labelled.append(*code);
     }
     for (const int code : qAsConst(labelled))
         takeCode(code);
-    if (!labelled.isEmpty())
-        return;
+    // Whole numbers are what codes are: a range of them that all have labels is carried.
+    if (labelled.isEmpty())
+        reasons.append(nothingCarried(range));
+    else if (isAnyLeftOut || std::floor(range.high) - std::ceil(range.low) + 1 > labelled.size())
+        reasons.append(labelledCarried(range));
+}
+
+QString MissingCodes::nothingCarried(const MissingRange &range)
+{
     if (range.low <= -kOpen)
-        reasons.append(tr("the missing values up to %1 are left out: a field carries single codes")
-                           .arg(numberText(range.high)));
-    else if (range.high >= kOpen)
-        reasons.append(tr("the missing values from %1 up are left out: a field carries single codes")
-                           .arg(numberText(range.low)));
-    else
-        reasons.append(tr("the missing values from %1 to %2 are left out: a field carries single codes")
-                           .arg(numberText(range.low), numberText(range.high)));
+        return tr("the missing values up to %1 are left out: a field carries single codes")
+            .arg(numberText(range.high));
+    if (range.high >= kOpen)
+        return tr("the missing values from %1 up are left out: a field carries single codes")
+            .arg(numberText(range.low));
+    return tr("the missing values from %1 to %2 are left out: a field carries single codes")
+        .arg(numberText(range.low), numberText(range.high));
+}
+
+QString MissingCodes::labelledCarried(const MissingRange &range)
+{
+    if (range.low <= -kOpen)
+        return tr("the missing values up to %1 are left out but for whole numbers with labels: a field "
+                  "carries single codes")
+            .arg(numberText(range.high));
+    if (range.high >= kOpen)
+        return tr("the missing values from %1 up are left out but for whole numbers with labels: a field "
+                  "carries single codes")
+            .arg(numberText(range.low));
+    return tr("the missing values from %1 to %2 are left out but for whole numbers with labels: a field "
+              "carries single codes")
+        .arg(numberText(range.low), numberText(range.high));
 }
 
 void MissingCodes::choose()

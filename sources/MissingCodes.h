@@ -13,7 +13,8 @@ class MissingCodes {
     Q_DECLARE_TR_FUNCTIONS(tessel::sources::MissingCodes)
 
 public:
-    /// Of the ranges \a declared; a range offers those of its whole numbers that have one of \a labels.
+    /// Of the ranges \a declared; a range offers those of its whole numbers that have one of \a labels, and
+    /// the others are told in reasons.
     MissingCodes(const QVector<MissingRange> &declared, const QVector<CodeLabel> &labels);
 
     QString missing; ///< A whole number as text; empty when there is none.
@@ -27,6 +28,8 @@ private:
     void take(const MissingRange &range);
     void takeCode(double number);
     void takeRange(const MissingRange &range);
+    static QString nothingCarried(const MissingRange &range);
+    static QString labelledCarried(const MissingRange &range);
     void choose();
     QString labelOf(int code) const;
 

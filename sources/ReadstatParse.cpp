@@ -7,27 +7,28 @@
 namespace tessel::sources {
 namespace {
 
-QFile &fileOf(void *context) { return *static_cast<QFile *>(context); }
+ParsedFile &fileOf(void *context) { return *static_cast<ParsedFile *>(context); }
 
-int openFile(const char *, void *context) { return fileOf(context).seek(0) ? 0 : -1; }
+int openFile(const char *, void *context) { return fileOf(context).file.seek(0) ? 0 : -1; }
 
 int closeFile(void *) { return 0; }
 
 readstat_off_t seekFile(readstat_off_t offset, readstat_io_flags_t whence, void *context)
 {
-    QFile &file = fileOf(context);
-    const qint64 start = whence == READSTAT_SEEK_END ? file.size()
-        : whence == READSTAT_SEEK_CUR                ? file.pos()
-                                                     : 0;
+    const qint64 size = fileOf(context).size();
+    QFile &file = fileOf(context).file;
+    const qint64 start = whence == READSTAT_SEEK_END ? size : whence == READSTAT_SEEK_CUR ? file.pos() : 0;
     // Nothing is behind the end; asked for a place there, Qt would complain on the log.
-    const bool isInFile = offset >= -start && offset <= file.size() - start;
+    const bool isInFile = offset >= -start && offset <= size - start;
     return isInFile && file.seek(start + offset) ? file.pos() : -1;
 }
 
 ssize_t readFile(void *bytes, std::size_t size, void *context)
 {
-    QFile &file = fileOf(context);
-    const qint64 count = file.read(static_cast<char *>(bytes), qint64(size));
+    const qint64 end = fileOf(context).end;
+    QFile &file = fileOf(context).file;
+    const qint64 wanted = end < 0 ? qint64(size) : std::min(qint64(size), end - file.pos());
+    const qint64 count = file.read(static_cast<char *>(bytes), wanted);
     // Behind the end nothing can be read; that is no error.
     return count < 0 && file.error() != QFileDevice::ReadError ? 0 : count;
 }
@@ -166,8 +167,8 @@ struct ReadstatParse::Values {
     const ValueReceiver &receive;
 };
 
-ReadstatParse::ReadstatParse(QFile &file, const QString &encoding)
-    : device(file)
+ReadstatParse::ReadstatParse(QFile &file, const QString &encoding, qint64 end)
+    : device{file, end}
     , encodingName(encoding.toUtf8())
     , parser(readstat_parser_init(), readstat_parser_free)
 {

@@ -14,6 +14,14 @@
 
 namespace tessel::sources {
 
+/// What a way goes through: \a file as far as \a end, as if there were no more of it.
+struct ParsedFile {
+    QFile &file;
+    qint64 end; ///< -1: the end of the file.
+
+    qint64 size() const { return end < 0 ? file.size() : end; }
+};
+
 /// One way through a statistical file with ReadStat, which reads through Qt and writes nowhere.
 class ReadstatParse {
 public:
@@ -22,8 +30,8 @@ public:
     using ValueReceiver = std::function<bool(qint64 record, int variable, const readstat_value_t &value)>;
 
     /// Reads \a file, which is open and outlives this. The texts are in \a encoding; empty: in what the file
-    /// declares.
-    ReadstatParse(QFile &file, const QString &encoding);
+    /// declares. What stands behind \a end is not looked at; -1: there is nothing behind it.
+    ReadstatParse(QFile &file, const QString &encoding, qint64 end = -1);
     ~ReadstatParse();
 
     /// Gives texts as they stand in the file, whatever their encoding.
@@ -46,7 +54,7 @@ private:
     void setContentHandlers();
     readstat_error_t parse(StatisticalFormat format, void *context);
 
-    QFile &device;
+    ParsedFile device;
     const QByteArray encodingName;
     const std::unique_ptr<readstat_parser_t, void (*)(readstat_parser_t *)> parser;
 

@@ -5,6 +5,7 @@
 #include "sources/OpenSource.h"
 #include "sources/ReadstatParse.h"
 #include "sources/SourceKind.h"
+#include "sources/StatisticalProblem.h"
 
 #include <QDir>
 #include <QFile>
@@ -92,7 +93,10 @@ QString SasCatalogue::read(QHash<QString, LabelSet> &sets) const
         return cut;
     // Half a catalogue is none: some of the sets would pass for all of them.
     StatisticalContent content;
-    if (ReadstatParse(file, encodingName).readCatalogue(content) != READSTAT_OK)
+    const readstat_error_t error = ReadstatParse(file, encodingName).readCatalogue(content);
+    if (StatisticalProblem::isOfEncoding(error))
+        return StatisticalProblem::ofTexts(encodingName, QString()).problem.message;
+    if (error != READSTAT_OK)
         return tr("is damaged and cannot be read");
     sets = content.labelSets;
     return QString();

@@ -4,7 +4,7 @@
 
 namespace tessel::sources {
 
-/// No text of a source is carried beyond this many characters.
+/// No text of a statistical file is carried beyond this many characters.
 constexpr int kMostTextCharacters = 32767;
 
 /// What had to be done to texts so that they could be carried.

@@ -7,8 +7,11 @@
 #include "sources/SasCatalogue.h"
 #include "sources/StatisticalProblem.h"
 #include "sources/StatisticalValues.h"
+#include "sources/TransportEnd.h"
 
 #include <QFile>
+
+#include <algorithm>
 
 namespace tessel::sources {
 namespace {
@@ -54,6 +57,7 @@ public:
         const readstat_error_t error = ReadstatParse(file, options.encoding).readContent(format, content);
         if (error != READSTAT_OK)
             return problem(error);
+        findEnd();
         fault = joinLabels();
         return fault.isEmpty() ? withFields() : StatisticalProblem::with(fault);
     }
@@ -91,6 +95,25 @@ private:
 
     bool isSas() const { return format == StatisticalFormat::Sas7bdat || format == StatisticalFormat::Xpt; }
 
+    /// A transport file may hold several data sets one behind the other and tells so nowhere: the records of
+    /// the first would go on with what is none of theirs.
+    void findEnd()
+    {
+        if (format != StatisticalFormat::Xpt)
+            return;
+        // How long this takes must not depend on how many records there are, unless they are wanted.
+        constexpr qint64 most = qint64(64) * 1024 * 1024;
+        qint64 width = 1;
+        for (const StatisticalVariable &variable : qAsConst(content.variables))
+            width += variable.storageWidth;
+        const qint64 wanted = std::min(options.rows, file.size() / width + 1) * width;
+        end = endOfFirstDataSet(file, most + wanted);
+        if (end >= 0)
+            source.remarks.append({QString(),
+                tr("The file holds more than one data set, of which only the first one is read; save each in "
+                   "a file of its own.")});
+    }
+
     /// What keeps variables and their labels apart; empty when nothing does.
     QString joinLabels()
     {
@@ -106,7 +129,7 @@ private:
     {
         StatisticalValues values(content, options);
         if (options.rows > 0) {
-            const readstat_error_t error = values.read(file, format);
+            const readstat_error_t error = values.read(file, format, end);
             SourceOutcome cancelled;
             cancelled.isCancelled = values.isCancelled();
             if (cancelled.isCancelled)
@@ -118,13 +141,23 @@ private:
         FieldMaker maker(format, content);
         for (int i = 0; i < content.variables.size(); ++i)
             source.fields.push_back(maker.make(i, values.tally(i)));
-        if (content.mends.isForeign || maker.hasForeignTexts())
-            source.remarks.append(
-                {QString(), tr("Some texts are not valid UTF-8 and were read as Windows-1252.")});
+        remarkOnForeignTexts(maker.foreignFields());
         source.remarks += maker.remarks();
         SourceOutcome outcome;
         outcome.result = std::move(source);
         return outcome;
+    }
+
+    void remarkOnForeignTexts(const QStringList &fields)
+    {
+        if (content.mends.isForeign)
+            source.remarks.append(
+                {QString(), tr("The title is not valid UTF-8 and was read as Windows-1252.")});
+        if (!fields.isEmpty())
+            source.remarks.append({QString(),
+                tr("Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.", nullptr,
+                    fields.size())
+                    .arg(fields.join(QLatin1String(", ")))});
     }
 
     void describe(const StatisticalValues &values)
@@ -148,6 +181,7 @@ private:
     const StatisticalFormat format;
     const ReadOptions &options;
     StatisticalContent content;
+    qint64 end = -1; ///< Of what is read of the file; -1: all of it.
     SourceFields source;
 };
 

@@ -20,7 +20,7 @@ StatisticalValues::StatisticalValues(const StatisticalContent &content, const Re
 {
 }
 
-readstat_error_t StatisticalValues::read(QFile &file, StatisticalFormat format)
+readstat_error_t StatisticalValues::read(QFile &file, StatisticalFormat format, qint64 end)
 {
     for (const StatisticalVariable &variable : source.variables)
         tallies.emplace_back(variable, wishes.mostCategories);
@@ -29,7 +29,7 @@ readstat_error_t StatisticalValues::read(QFile &file, StatisticalFormat format)
     // Whether there are more records than are looked at shows with the first of them, unless it is known.
     const qint64 limit = source.rows < 0 ? expected + 1 : expected;
     more = source.rows > expected;
-    return ReadstatParse(file, wishes.encoding)
+    return ReadstatParse(file, wishes.encoding, end)
         .readValues(
             format, limit, [this](int place) { return isWanted(place); },
             [this](qint64 record, int place, const readstat_value_t &value) {

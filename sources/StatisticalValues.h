@@ -14,8 +14,9 @@ public:
     /// For the variables of \a content, as \a options wish; both outlive this.
     StatisticalValues(const StatisticalContent &content, const ReadOptions &options);
 
-    /// Reads \a file, an open file of the format \a format. Being cancelled is an error too.
-    readstat_error_t read(QFile &file, StatisticalFormat format);
+    /// Reads \a file, an open file of the format \a format, as far as \a end; -1: all of it. Being cancelled
+    /// is an error too.
+    readstat_error_t read(QFile &file, StatisticalFormat format, qint64 end);
 
     bool isCancelled() const { return cancelled; }
     qint64 rowsRead() const { return recordsRead; }

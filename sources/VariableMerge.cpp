@@ -18,6 +18,7 @@ VariableMerge::VariableMerge(TDmEntity &changedEntity, OnClash clash)
 void VariableMerge::add(std::vector<ImportedField> fields)
 {
     for (ImportedField &imported : fields) {
+        const bool isNameless = imported.variable->getName().trimmed().isEmpty();
         int position = positionOf(*imported.variable);
         if (position >= 0) {
             clashList.append({imported.field, reasonOf(*imported.variable, position)});
@@ -33,6 +34,10 @@ void VariableMerge::add(std::vector<ImportedField> fields)
         origins.insert(position, imported.field);
         if (!imported.declaredCodes.isEmpty())
             codeList.append({imported.field, imported.declaredCodes});
+        if (isNameless)
+            namelessList.append({imported.field,
+                tr("gives a variable without a name, because it begins with \"_\" and a digit; name the "
+                   "variable in the dictionary")});
     }
 }
 

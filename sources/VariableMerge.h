@@ -40,6 +40,9 @@ public:
     /// What the declared codes of the fields that were added changed, in order.
     const QVector<SourceRemark> &declaredCodes() const { return codeList; }
 
+    /// The fields that were added and whose variable got no name, in order.
+    const QVector<SourceRemark> &nameless() const { return namelessList; }
+
 private:
     int positionOf(const TDmVariable &variable) const;
     QString reasonOf(const TDmVariable &fresh, int position) const;
@@ -50,6 +53,7 @@ private:
     QHash<int, QString> origins; ///< The field that gave the variable at a position.
     QVector<SourceRemark> clashList;
     QVector<SourceRemark> codeList;
+    QVector<SourceRemark> namelessList;
 };
 
 } // namespace tessel::sources

@@ -324,4 +324,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>tessel::sources::StatisticalReader</name>
+    <message numerus="yes">
+        <source>Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.</source>
+        <translation>
+            <numerusform>Texts of %n field are not valid UTF-8 and were read as Windows-1252: %1.</numerusform>
+            <numerusform>Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

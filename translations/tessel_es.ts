@@ -447,6 +447,10 @@ Keep it as RefCode?</source>
         <source>the minimum %1 is above the maximum %2; exchange them</source>
         <translation>el mínimo %1 es mayor que el máximo %2; intercámbielos</translation>
     </message>
+    <message>
+        <source>the variable has no name; give it one</source>
+        <translation>la variable no tiene nombre; asígnele uno</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor</name>
@@ -759,10 +763,6 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>%1: contiene etiquetas y ningún campo; abra primero el archivo .sas7bdat al que pertenecen</translation>
     </message>
     <message>
-        <source>%1 (see the box &quot;Encoding&quot;)</source>
-        <translation>%1 (vea el cuadro «Codificación»)</translation>
-    </message>
-    <message>
         <source>Records: %L1.</source>
         <translation>Registros: %L1.</translation>
     </message>
@@ -804,6 +804,10 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>Remarks on %1</source>
         <translation>Observaciones sobre %1</translation>
+    </message>
+    <message>
+        <source>%1 in the box &quot;Encoding&quot;</source>
+        <translation>%1 en el cuadro &quot;Codificación&quot;</translation>
     </message>
 </context>
 <context>
@@ -2783,6 +2787,18 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
             <numerusform>se descartan %n códigos de omitido, porque un campo solo admite dos: %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>the missing values up to %1 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>los valores omitidos hasta %1 se descartan, salvo los números enteros con etiqueta: un campo solo admite códigos individuales</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>los valores omitidos desde %1 se descartan, salvo los números enteros con etiqueta: un campo solo admite códigos individuales</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>los valores omitidos de %1 a %2 se descartan, salvo los números enteros con etiqueta: un campo solo admite códigos individuales</translation>
+    </message>
 </context>
 <context>
     <name>tessel::sources::SasCatalogue</name>
@@ -2887,16 +2903,27 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
         <translation>no contiene variables; se esperaba al menos una</translation>
     </message>
     <message>
-        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
-        <translation>Algunos textos no son UTF-8 válido y se leyeron como Windows-1252.</translation>
-    </message>
-    <message>
         <source>Categories and ranges come from the first %1 records.</source>
         <translation>Las categorías y los rangos provienen de los primeros %1 registros.</translation>
     </message>
     <message>
         <source>Categories and ranges come from the first %1 of %2 records.</source>
         <translation>Las categorías y los rangos provienen de los primeros %1 de %2 registros.</translation>
+    </message>
+    <message>
+        <source>The file holds more than one data set, of which only the first one is read; save each in a file of its own.</source>
+        <translation>El archivo contiene más de un conjunto de datos y solo se lee el primero; guarde cada uno en un archivo propio.</translation>
+    </message>
+    <message>
+        <source>The title is not valid UTF-8 and was read as Windows-1252.</source>
+        <translation>El título no es UTF-8 válido y se leyó como Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.</source>
+        <translation>
+            <numerusform>Los textos de %n campo no son UTF-8 válido y se leyeron como Windows-1252: %1.</numerusform>
+            <numerusform>Los textos de %n campos no son UTF-8 válido y se leyeron como Windows-1252: %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2939,10 @@ Diccionarios de datos para bases de datos estadísticas jerárquicas.</translati
     <message>
         <source>%1 has a variable %2 already, with another alias, label or group</source>
         <translation>%1 ya tiene una variable %2, con otro alias, otra etiqueta u otro grupo</translation>
+    </message>
+    <message>
+        <source>gives a variable without a name, because it begins with &quot;_&quot; and a digit; name the variable in the dictionary</source>
+        <translation>produce una variable sin nombre, porque comienza con &quot;_&quot; y un dígito; dele nombre a la variable en el diccionario</translation>
     </message>
 </context>
 </TS>

@@ -447,6 +447,10 @@ La conserver comme RefCode&#xa0;?</translation>
         <source>the minimum %1 is above the maximum %2; exchange them</source>
         <translation>le minimum %1 est supérieur au maximum %2&#xa0;; échangez-les</translation>
     </message>
+    <message>
+        <source>the variable has no name; give it one</source>
+        <translation>la variable n&apos;a pas de nom ; donnez-lui-en un</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor</name>
@@ -759,10 +763,6 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>%1&#xa0;: contient des libellés et aucun champ&#xa0;; ouvrez d&apos;abord le fichier .sas7bdat auquel ils appartiennent</translation>
     </message>
     <message>
-        <source>%1 (see the box &quot;Encoding&quot;)</source>
-        <translation>%1 (voir la zone «&#xa0;Codage du fichier&#xa0;»)</translation>
-    </message>
-    <message>
         <source>Records: %L1.</source>
         <translation>Enregistrements&#xa0;: %L1.</translation>
     </message>
@@ -804,6 +804,10 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>Remarks on %1</source>
         <translation>Remarques sur %1</translation>
+    </message>
+    <message>
+        <source>%1 in the box &quot;Encoding&quot;</source>
+        <translation>%1 dans la liste « Codage du fichier »</translation>
     </message>
 </context>
 <context>
@@ -2783,6 +2787,18 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
             <numerusform>%n codes manquants sont laissés de côté, car un champ n&apos;en admet que deux&#xa0;: %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>the missing values up to %1 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>les valeurs manquantes jusqu&apos;à %1 sont laissées de côté, sauf les nombres entiers qui ont un libellé : un champ ne porte que des codes isolés</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>les valeurs manquantes à partir de %1 sont laissées de côté, sauf les nombres entiers qui ont un libellé : un champ ne porte que des codes isolés</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>les valeurs manquantes de %1 à %2 sont laissées de côté, sauf les nombres entiers qui ont un libellé : un champ ne porte que des codes isolés</translation>
+    </message>
 </context>
 <context>
     <name>tessel::sources::SasCatalogue</name>
@@ -2887,16 +2903,27 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
         <translation>ne contient pas de variables&#xa0;; au moins une était attendue</translation>
     </message>
     <message>
-        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
-        <translation>Certains textes ne sont pas en UTF-8 valide et ont été lus en Windows-1252.</translation>
-    </message>
-    <message>
         <source>Categories and ranges come from the first %1 records.</source>
         <translation>Les catégories et les plages proviennent des %1 premiers enregistrements.</translation>
     </message>
     <message>
         <source>Categories and ranges come from the first %1 of %2 records.</source>
         <translation>Les catégories et les plages proviennent des %1 premiers enregistrements sur %2.</translation>
+    </message>
+    <message>
+        <source>The file holds more than one data set, of which only the first one is read; save each in a file of its own.</source>
+        <translation>Le fichier contient plusieurs jeux de données, dont seul le premier est lu ; enregistrez chacun dans un fichier à part.</translation>
+    </message>
+    <message>
+        <source>The title is not valid UTF-8 and was read as Windows-1252.</source>
+        <translation>Le titre n&apos;est pas en UTF-8 valide et a été lu en Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.</source>
+        <translation>
+            <numerusform>Les textes de %n champ ne sont pas en UTF-8 valide et ont été lus en Windows-1252 : %1.</numerusform>
+            <numerusform>Les textes de %n champs ne sont pas en UTF-8 valide et ont été lus en Windows-1252 : %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2939,10 @@ Dictionnaires de données pour bases de données statistiques hiérarchiques.</t
     <message>
         <source>%1 has a variable %2 already, with another alias, label or group</source>
         <translation>%1 a déjà une variable %2, avec un autre alias, un autre libellé ou un autre groupe</translation>
+    </message>
+    <message>
+        <source>gives a variable without a name, because it begins with &quot;_&quot; and a digit; name the variable in the dictionary</source>
+        <translation>donne une variable sans nom, parce qu&apos;il commence par « _ » et un chiffre ; nommez la variable dans le dictionnaire</translation>
     </message>
 </context>
 </TS>

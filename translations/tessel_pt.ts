@@ -447,6 +447,10 @@ Mantê-la como RefCode?</translation>
         <source>the minimum %1 is above the maximum %2; exchange them</source>
         <translation>o mínimo %1 é maior que o máximo %2; troque-os</translation>
     </message>
+    <message>
+        <source>the variable has no name; give it one</source>
+        <translation>a variável não tem nome; dê um a ela</translation>
+    </message>
 </context>
 <context>
     <name>tessel::editor</name>
@@ -759,10 +763,6 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>%1: contém rótulos e nenhum campo; abra primeiro o arquivo .sas7bdat a que eles pertencem</translation>
     </message>
     <message>
-        <source>%1 (see the box &quot;Encoding&quot;)</source>
-        <translation>%1 (veja a caixa “Codificação”)</translation>
-    </message>
-    <message>
         <source>Records: %L1.</source>
         <translation>Registros: %L1.</translation>
     </message>
@@ -804,6 +804,10 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>Remarks on %1</source>
         <translation>Observações sobre %1</translation>
+    </message>
+    <message>
+        <source>%1 in the box &quot;Encoding&quot;</source>
+        <translation>%1 na caixa “Codificação”</translation>
     </message>
 </context>
 <context>
@@ -2783,6 +2787,18 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
             <numerusform>%n códigos de ausente são deixados de fora, porque um campo só admite dois: %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>the missing values up to %1 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>os valores ausentes até %1 são deixados de fora, exceto os números inteiros com rótulo: um campo só admite códigos individuais</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 up are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>os valores ausentes a partir de %1 são deixados de fora, exceto os números inteiros com rótulo: um campo só admite códigos individuais</translation>
+    </message>
+    <message>
+        <source>the missing values from %1 to %2 are left out but for whole numbers with labels: a field carries single codes</source>
+        <translation>os valores ausentes de %1 a %2 são deixados de fora, exceto os números inteiros com rótulo: um campo só admite códigos individuais</translation>
+    </message>
 </context>
 <context>
     <name>tessel::sources::SasCatalogue</name>
@@ -2887,16 +2903,27 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
         <translation>não contém variáveis; esperava-se pelo menos uma</translation>
     </message>
     <message>
-        <source>Some texts are not valid UTF-8 and were read as Windows-1252.</source>
-        <translation>Alguns textos não são UTF-8 válido e foram lidos como Windows-1252.</translation>
-    </message>
-    <message>
         <source>Categories and ranges come from the first %1 records.</source>
         <translation>As categorias e os intervalos vêm dos primeiros %1 registros.</translation>
     </message>
     <message>
         <source>Categories and ranges come from the first %1 of %2 records.</source>
         <translation>As categorias e os intervalos vêm dos primeiros %1 de %2 registros.</translation>
+    </message>
+    <message>
+        <source>The file holds more than one data set, of which only the first one is read; save each in a file of its own.</source>
+        <translation>O arquivo contém mais de um conjunto de dados e só o primeiro é lido; salve cada um em um arquivo próprio.</translation>
+    </message>
+    <message>
+        <source>The title is not valid UTF-8 and was read as Windows-1252.</source>
+        <translation>O título não é UTF-8 válido e foi lido como Windows-1252.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Texts of %n fields are not valid UTF-8 and were read as Windows-1252: %1.</source>
+        <translation>
+            <numerusform>Os textos de %n campo não são UTF-8 válido e foram lidos como Windows-1252: %1.</numerusform>
+            <numerusform>Os textos de %n campos não são UTF-8 válido e foram lidos como Windows-1252: %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2939,10 @@ Dicionários de dados para bancos de dados estatísticos hierárquicos.</transla
     <message>
         <source>%1 has a variable %2 already, with another alias, label or group</source>
         <translation>%1 já tem uma variável %2, com outro alias, outro rótulo ou outro grupo</translation>
+    </message>
+    <message>
+        <source>gives a variable without a name, because it begins with &quot;_&quot; and a digit; name the variable in the dictionary</source>
+        <translation>gera uma variável sem nome, porque começa com “_” e um dígito; dê nome à variável no dicionário</translation>
     </message>
 </context>
 </TS>

@@ -154,7 +154,7 @@ bool DatasetSourceTab::read(const QString &name, const sources::ReadOptions &how
         return false;
     QString sentence = sentenceOn(name, outcome.problem);
     if (outcome.canRetryWithEncoding) {
-        sentence = tr("%1 (see the box \"Encoding\")").arg(sentence);
+        sentence = tr("%1 in the box \"Encoding\"").arg(sentence);
         encodingBox->setFocus(Qt::OtherFocusReason);
         encodingBox->lineEdit()->selectAll();
     }

@@ -151,7 +151,7 @@ private slots:
         row("entity-name-is-alias", R"({"entities":[{"name":"A","alias":"A"}]})",
             "/entities/0 (A): the name is also an alias of an entity; change one of them "
             "[entity-name-is-alias]");
-        row("entity-name-is-group", R"({"entities":[{"name":"A","variables":[{"group":"A"}]}]})",
+        row("entity-name-is-group", R"({"entities":[{"name":"A","variables":[{"name":"V","group":"A"}]}]})",
             "/entities/0 (A): the name is also a group of variables; change one of them "
             "[entity-name-is-group]");
         row("a name beyond ASCII is printed in UTF-8",

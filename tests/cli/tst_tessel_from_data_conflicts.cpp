@@ -166,6 +166,20 @@ private slots:
         }
     }
 
+    void aFieldWithoutANameForItsVariableIsTold()
+    {
+        tessel->put("f.csv", header("_1_A B"));
+        const Told told = tessel->run({"from-data", "f.csv"});
+        QCOMPARE(told.status, 1);
+        QCOMPARE(outline(told.out), QString("f( B)"));
+        QVERIFY2(told.err.endsWith(
+                     "f.csv: _1_A: gives a variable without a name, because it begins with \"_\" and a "
+                     "digit; name the variable in the dictionary\n"
+                     "standard output: /entities/0/variables/0 (f/): the variable has no name; "
+                     "give it one [variable-name-empty]\n"),
+            told.err.constData());
+    }
+
 private:
     QScopedPointer<Tessel> tessel;
 };

@@ -146,8 +146,9 @@ private slots:
         row("no entities", "{'entities':[]}");
         row("different names", "{'entities':[{'name':'A'},{'name':'B','entities':[{'name':'C'}]}]}");
         row("letter case makes names differ",
-            "{'name':'a','entities':[{'name':'A','alias':'b'},{'name':'B','variables':[{'group':'c'}]},"
-            "{'name':'C'},{'name':'d','alias':'D','variables':[{'group':'D'}]}]}");
+            "{'name':'a','entities':[{'name':'A','alias':'b'},{'name':'B','variables':[{'name':'V','group':'"
+            "c'}]},"
+            "{'name':'C'},{'name':'d','alias':'D','variables':[{'name':'V','group':'D'}]}]}");
         row("twins: the second one is at fault", "{'entities':[{'name':'A'},{'name':'A'}]}",
             "entity-name-duplicate /entities/1 A");
         row("each further one is at fault", "{'entities':[{'name':'A'},{'name':'A'},{'name':'A'}]}",
@@ -176,24 +177,28 @@ private slots:
             "{'entities':[{'name':'A','alias':'X'},{'name':'B','alias':'X'}]}");
         row("an empty alias is none", "{'entities':[{'name':'A','alias':''},{'name':'','alias':''}]}",
             "entity-name-empty /entities/1 ");
-        row("a group of its own variables", "{'entities':[{'name':'A','variables':[{'group':'A'}]}]}",
+        row("a group of its own variables",
+            "{'entities':[{'name':'A','variables':[{'name':'V','group':'A'}]}]}",
             "entity-name-is-group /entities/0 A");
         row("a group in an entity behind it",
-            "{'entities':[{'name':'A'},{'name':'B','entities':[{'name':'C','variables':[{'group':'A'}]}]}]}",
+            "{'entities':[{'name':'A'},{'name':'B','entities':[{'name':'C','variables':[{'name':'V','group':'"
+            "A'}]}]}]}",
             "entity-name-is-group /entities/0 A");
         row("a group of the dictionary's own variables",
-            "{'variables':[{'group':'A'}],'entities':[{'name':'A'}]}", "entity-name-is-group /entities/0 A");
-        row("a group with blanks around", "{'entities':[{'name':' A','variables':[{'group':'A '}]}]}",
+            "{'variables':[{'name':'V','group':'A'}],'entities':[{'name':'A'}]}",
+            "entity-name-is-group /entities/0 A");
+        row("a group with blanks around",
+            "{'entities':[{'name':' A','variables':[{'name':'V','group':'A '}]}]}",
             "entity-name-is-group /entities/0  A");
         row("a group with a hyphen is compared as well",
-            "{'entities':[{'name':'A-B','variables':[{'group':'A-B'}]}]}",
+            "{'entities':[{'name':'A-B','variables':[{'name':'V','group':'A-B'}]}]}",
             "entity-name-invalid /entities/0 A-B; entity-name-is-group /entities/0 A-B");
         row("names and aliases of variables are no fault of the entity's name",
             "{'entities':[{'name':'A','variables':[{'name':'A','alias':'A','label':'A'}]}]}",
             "variable-name-is-entity /entities/0/variables/0 A/A");
         row("labels do not matter", "{'label':'A','entities':[{'name':'A','label':'A'}]}");
         row("the dictionary's own name is not judged",
-            "{'name':'1','alias':'1','variables':[{'group':'1'}]}");
+            "{'name':'1','alias':'1','variables':[{'name':'V','group':'1'}]}");
     }
 
     void namesAreComparedInTheWholeDictionary()
@@ -206,7 +211,7 @@ private slots:
     {
         const QString name = QString(51, '-') + R"(\u0001)";
         const std::unique_ptr<TDmEntity> root = treeOf(QStringLiteral(
-            "{'name':'%1','entities':[{'name':'%1','alias':'%1','variables':[{'group':'%1'}]}]}")
+            "{'name':'%1','entities':[{'name':'%1','alias':'%1','variables':[{'name':'V','group':'%1'}]}]}")
                                                            .arg(name));
         QStringList codes;
         const QVector<Finding> findings = findingsIn(*root);

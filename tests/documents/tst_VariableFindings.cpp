@@ -62,6 +62,8 @@ private slots:
             "B, which is to hold the entity's label, is none of its variables; choose one or add it");
         row("entity-weight-unknown", entityWith("{'name':'A'}", "'weightVar':'B',"), "/entities/0", "E",
             "B, which is to hold the entity's weight, is none of its variables; choose one or add it");
+        row("variable-name-empty", entityWith("{'name':'A'},{'name':' '}"), "/entities/0/variables/1", "E/ ",
+            "the variable has no name; give it one");
         row("variable-name-unprintable", entityWith(R"({'name':'A\\'})"), "/entities/0/variables/0", "E/A\\",
             "a variable's name holds no control character, double quote or backslash");
         row("variable-name-duplicate", entityWith("{'name':'A'},{'name':'B'},{'name':'A'}"),
@@ -124,7 +126,9 @@ private slots:
         row("each further one is at fault", entityWith("{'name':'A'},{'name':'A'},{'name':'A'}"),
             "variable-name-duplicate /entities/0/variables/1; variable-name-duplicate "
             "/entities/0/variables/2");
-        row("missing names repeat nothing", entityWith("{'label':'x'},{'name':''},{'name':' '}"));
+        row("missing names repeat nothing", entityWith("{'label':'x'},{'name':''},{'name':' '}"),
+            "variable-name-empty /entities/0/variables/0; variable-name-empty /entities/0/variables/1; "
+            "variable-name-empty /entities/0/variables/2");
         row("the name of an entity further down",
             "{'entities':[{'name':'E','variables':[{'name':' F'}],'entities':[{'name':'F '}]}]}",
             "variable-name-is-entity /entities/0/variables/0");
@@ -133,21 +137,26 @@ private slots:
         row("an alias like a name is allowed", entityWith("{'name':'A'},{'name':'B','alias':'A'}"));
         row("any printable character", entityWith(R"({'name':'a-b/c <d>','label':'Año: ½ «x»'})"));
         row("type names are read without their case and blanks",
-            entityWith("{'type':'String'},{'type':' INTEGER '},{'type':'real'},{'type':'Bool'},{'type':''}"));
-        row("a type of blanks", entityWith("{'type':' '}"), "variable-type-unknown /entities/0/variables/0");
+            entityWith("{'name':'V1','type':'String'},{'name':'V2','type':' INTEGER "
+                       "'},{'name':'V3','type':'real'},{'name':'V4','type':'Bool'},{'name':'V5','type':''}"));
+        row("a type of blanks", entityWith("{'name':'V6','type':' '}"),
+            "variable-type-unknown /entities/0/variables/0");
         row("integer codes",
-            entityWith("{'type':'integer','valueLabels':[{'value':'-1'},{'value':' 7 '},{'value':''},"
-                       "{'value':'1.5'},{'value':'99999999999'},{'value':'0x1'}]}"),
+            entityWith(
+                "{'name':'V7','type':'integer','valueLabels':[{'value':'-1'},{'value':' 7 '},{'value':''},"
+                "{'value':'1.5'},{'value':'99999999999'},{'value':'0x1'}]}"),
             "label-code-not-number /entities/0/variables/0/valueLabels/3; "
             "label-code-not-number /entities/0/variables/0/valueLabels/4; "
             "label-code-not-number /entities/0/variables/0/valueLabels/5");
         row("real codes",
-            entityWith("{'type':'real','valueLabels':[{'value':'1.5'},{'value':'1e3'},{'value':'a'}]}"),
+            entityWith(
+                "{'name':'V8','type':'real','valueLabels':[{'value':'1.5'},{'value':'1e3'},{'value':'a'}]}"),
             "label-code-not-number /entities/0/variables/0/valueLabels/2");
         row("codes of texts and truth values",
-            entityWith("{'type':'string','valueLabels':[{'value':'a'}]},"
-                       "{'type':'bool','valueLabels':[{'value':'a'}]}"));
-        row("ranges of one value and of none", entityWith("{'metadata':{'range':[{'min':3,'max':3},{}]}}"));
+            entityWith("{'name':'V9','type':'string','valueLabels':[{'value':'a'}]},"
+                       "{'name':'V10','type':'bool','valueLabels':[{'value':'a'}]}"));
+        row("ranges of one value and of none",
+            entityWith("{'name':'V11','metadata':{'range':[{'min':3,'max':3},{}]}}"));
         row("faults of one variable, in one order",
             entityWith(R"({'name':'E\\'},{'name':'E\\','label':'\\','type':'?','metadata':)"
                        "{'range':[{'min':1,'max':0}]}}"),

@@ -243,7 +243,7 @@ private slots:
         };
         QVERIFY(!reader.pane.openDataset(QStringLiteral("y.sav")));
         const QString sentence(
-            "y.sav: holds texts that are no UTF-8; choose the encoding (see the box \"Encoding\")");
+            "y.sav: holds texts that are no UTF-8; choose the encoding in the box \"Encoding\"");
         QCOMPARE(sentencesOf(problems), QStringList{sentence});
         QVERIFY(boxOf(reader.pane).hasFocus());
         QCOMPARE(namesIn(reader.pane), (QStringList{"A", "B"}));

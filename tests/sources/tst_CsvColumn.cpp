@@ -49,7 +49,8 @@ private slots:
         row("only positive numbers", {"12", "7"}, "INTEGER 2 0 7..12 [7 7|12 12]");
         row("only negative numbers", {"-12", "-7"}, "INTEGER 3 0 -12..-7 [-12 -12|-7 -7]");
         row("empty values are none", {"", "5", ""}, "INTEGER 1 0 5..5 [5 5]");
-        row("leading zeros", {"007", "7", "10"}, "STRING 3 0 .. [7 7|10 10|007 007]");
+        row("leading zeros", {"10", "7", "007", "x"}, "STRING 3 0 .. [007 007|7 7|10 10|x x]");
+        row("codes of two digits", {"10", "02", "01"}, "STRING 2 0 .. [01 01|02 02|10 10]");
         row("a number that no int holds", {"1", "2147483648"}, "STRING 10 0 .. [1 1|2147483648 2147483648]");
         row("decimals", {"1.5", "2.25", "-3"}, "REAL 4 2 -3..2.25 []");
         row("decimals and a number that no int holds", {"2147483648", "0.5"}, "REAL 10 1 0.5..2147483648 []");

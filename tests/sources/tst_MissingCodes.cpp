@@ -47,6 +47,8 @@ void tst_MissingCodes::choice_data()
     QTest::addColumn<QString>("codes");
     QTest::addColumn<QStringList>("reasons");
     const QString single = QStringLiteral(" are left out: a field carries single codes");
+    const QString rest =
+        QStringLiteral(" are left out but for whole numbers with labels: a field carries single codes");
     const QString whole =
         QStringLiteral(" is left out: a field carries whole numbers from -2147483648 to 2147483647");
     const Labels known{label(1, "Yes"), label(97, "Unknown"), label(98, "No aplica"), label(99, "Refused")};
@@ -67,8 +69,23 @@ void tst_MissingCodes::choice_data()
         << Ranges{range(97, 99)} << known << "97/98"
         << QStringList{"1 missing codes are left out, because a field carries two: 99"};
     QTest::newRow("bounds belong to the range") << Ranges{range(97, 98)} << known << "97/98" << QStringList{};
-    QTest::newRow("an open range gives its labelled codes")
-        << Ranges{range(98, kInfinite)} << known << "99/98" << QStringList{};
+    QTest::newRow("an open range gives its labelled codes") << Ranges{
+        range(98, kInfinite)} << known << "99/98" << QStringList{"the missing values from 98 up" + rest};
+    QTest::newRow("open downwards with labelled codes")
+        << Ranges{range(-kInfinite, 1)} << known << "1/" << QStringList{"the missing values up to 1" + rest};
+    QTest::newRow("what has no label in a range is told") << Ranges{
+        range(96, 98)} << known << "97/98" << QStringList{"the missing values from 96 to 98" + rest};
+    QTest::newRow("bounds with decimals hold the whole numbers between")
+        << Ranges{range(96.5, 98.5)} << known << "97/98" << QStringList{};
+    QTest::newRow("codes with a label twice count once")
+        << Ranges{range(1, 2)} << Labels{label(1, "A"), label(1, "B")} << "1/"
+        << QStringList{"the missing values from 1 to 2" + rest};
+    QTest::newRow("a labelled code with decimals among whole ones")
+        << Ranges{range(2, 3)} << Labels{label(2, "Two"), label(2.5, "Half"), label(3, "Three")} << "2/3"
+        << QStringList{"the missing values from 2 to 3" + rest};
+    QTest::newRow("a label outside the range is no matter")
+        << Ranges{range(97, 98)} << Labels{label(97, "A"), label(98, "B"), label(98.5, "C")} << "97/98"
+        << QStringList{};
     QTest::newRow("a range without labels is told")
         << Ranges{range(50, 60)} << known << "/" << QStringList{"the missing values from 50 to 60" + single};
     QTest::newRow("a labelled code with decimals is none")

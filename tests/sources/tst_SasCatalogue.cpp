@@ -53,6 +53,7 @@ private slots:
     void namedCatalogueThatIsNoneIsAProblem_data();
     void namedCatalogueThatIsNoneIsAProblem();
     void damagedCatalogueBesideGivesNoLabels();
+    void catalogueInAnotherEncodingIsTold();
     void labelsOfTexts();
     void everyPrefixOfTheCatalogueIsRefusedOrWhole();
 
@@ -185,6 +186,25 @@ void tst_SasCatalogue::damagedCatalogueBesideGivesNoLabels()
     QCOMPARE(remarksOf(outcome),
         QStringList{
             "There are no value labels: the catalogue survey.sas7bcat is damaged and cannot be read."});
+}
+
+void tst_SasCatalogue::catalogueInAnotherEncodingIsTold()
+{
+    const QString labels =
+        put(QStringLiteral("survey.sas7bcat"), fileOf(catalogue("Var\xf3n"), {FileKind::Sas7bcat}));
+    const QString file = put(QStringLiteral("survey.sas7bdat"), fileOf(dataSet(), {FileKind::Sas7bdat}));
+    ReadOptions options;
+    options.encoding = QStringLiteral("US-ASCII");
+    const QString fault =
+        QStringLiteral("holds texts that are not in the encoding US-ASCII; choose another one");
+    QCOMPARE(remarksOf(readSource(file, options)),
+        QStringList(
+            QStringLiteral("There are no value labels: the catalogue survey.sas7bcat %1.").arg(fault)));
+    options.catalogue = labels;
+    QCOMPARE(problemOf(readSource(file, options)), QStringLiteral("its catalogue %1 %2").arg(labels, fault));
+    options.encoding = QStringLiteral("ISO-8859-1");
+    QCOMPARE(fieldsOf(readSource(file, options)).first(),
+        QString::fromUtf8("SEX: INTEGER 8.0 from 1 to 2 {1 Varón|2 Female}"));
 }
 
 void tst_SasCatalogue::labelsOfTexts()

@@ -176,8 +176,9 @@ void tst_StatisticalEncodings::invalidBytesOfDta118AreWindows1252AndTold()
         const SourceOutcome outcome =
             readingOf(tableOf("A\xF1o", READSTAT_TYPE_INT16), {FileKind::Dta, version});
         QCOMPARE(textsOf(outcome), QStringLiteral("Año/Año/1 Año"));
-        QCOMPARE(
-            remarksOf(outcome), QStringList{"Some texts are not valid UTF-8 and were read as Windows-1252."});
+        QCOMPARE(remarksOf(outcome),
+            (QStringList{"The title is not valid UTF-8 and was read as Windows-1252.",
+                "Texts of 1 fields are not valid UTF-8 and were read as Windows-1252: X."}));
         QVERIFY(!outcome.canRetryWithEncoding);
     }
 }

@@ -54,6 +54,8 @@ private slots:
     void taggedCodesAreLeftOutAndTold_data();
     void taggedCodesAreLeftOutAndTold();
     void longLabelsAreCarriedWhole();
+    void labelsThatAreNotInTheFileAreTold_data();
+    void labelsThatAreNotInTheFileAreTold();
 };
 
 void tst_StatisticalLabels::labelsArriveWhateverTheOrderOfTheFormat_data()
@@ -264,6 +266,29 @@ void tst_StatisticalLabels::longLabelsAreCarriedWhole()
     QCOMPARE(fieldOf(outcome, QStringLiteral("X")),
         QStringLiteral("INTEGER 11.0 from 1 to 3 {1 %1|2 %1|3 C}").arg(whole));
     QCOMPARE(remarksOf(outcome), QStringList());
+}
+
+void tst_StatisticalLabels::labelsThatAreNotInTheFileAreTold_data()
+{
+    QTest::addColumn<int>("version");
+    for (const int version : {117, 118, 119})
+        QTest::addRow("dta %d", version) << version;
+}
+
+void tst_StatisticalLabels::labelsThatAreNotInTheFileAreTold()
+{
+    QFETCH(int, version);
+    Table table = labelled({{1.0, "Yes"}, {2.0, "No"}}, READSTAT_TYPE_INT32);
+    table.sets.front().name = "yesno";
+    table.columns.front().labelSet = "yesno";
+    table.columns.push_back({"Y", READSTAT_TYPE_INT32, 0, "", ""});
+    QByteArray bytes = fileOf(table, {FileKind::Dta, static_cast<uint8_t>(version)});
+    // The variable comes to name a set that is not the one in the file.
+    QCOMPARE(bytes.count("yesno"), 2);
+    bytes.replace(bytes.indexOf("yesno"), 5, "gone!");
+    const SourceOutcome outcome = readingOf(bytes, QStringLiteral("survey.dta"));
+    QCOMPARE(fieldsOf(outcome), (QStringList{"X: INTEGER 11.0", "Y: INTEGER 11.0"}));
+    QCOMPARE(remarksOf(outcome), QStringList{"X: the value labels \"gone!\" are not in the file"});
 }
 
 QTEST_APPLESS_MAIN(tst_StatisticalLabels)

@@ -69,18 +69,6 @@ void tst_StatisticalMissing::codes_data()
     QTest::newRow("as small as a code may be")
         << declaring({{-2147483648.0, -2147483648.0}}) << "-2147483648|";
     QTest::newRow("large ones without an exponent") << declaring({{99999999, 99999999}}) << "99999999|";
-    QTest::newRow("a range gives the labelled codes in it")
-        << declaring({{97, 99}}, {{1.0, "Yes"}, {98.0, "Does not know"}, {99.0, "Does not answer"}})
-        << "98|99";
-    QTest::newRow("bounds of the range count")
-        << declaring({{97, 99}}, {{97.0, "Does not know"}, {99.0, "Does not answer"}, {100.0, "Hundred"}})
-        << "97|99";
-    QTest::newRow("an open range gives the labelled codes in it")
-        << declaring({{97, kInfinite}}, {{1.0, "Yes"}, {98.0, "Does not know"}}) << "98|";
-    QTest::newRow("open downwards") << declaring({{-kInfinite, 0}}, {{-5.0, "Refused"}, {1.0, "Yes"}})
-                                    << "-5|";
-    QTest::newRow("a range and one code")
-        << declaring({{97, 98}, {5, 5}}, {{1.0, "Yes"}, {97.0, "Refused"}}) << "97|5";
     QTest::newRow("every code of the range is labelled")
         << declaring({{98, 99}}, {{1.0, "Yes"}, {98.0, "Does not know"}, {99.0, "Does not answer"}})
         << "98|99";
@@ -124,6 +112,8 @@ void tst_StatisticalMissing::whatCannotBeCarriedIsTold_data()
     QTest::addColumn<Table>("table");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QString>("remark");
+    const QString rest =
+        QStringLiteral(" are left out but for whole numbers with labels: a field carries single codes");
     QTest::newRow("a third code") << declaring({{7, 7}, {8, 8}, {9, 9}}) << "7|8"
                                   << "X: 1 missing codes are left out, because a field carries two: 9";
     QTest::newRow("the third is kept when it is the not-applicable one")
@@ -138,6 +128,19 @@ void tst_StatisticalMissing::whatCannotBeCarriedIsTold_data()
     QTest::newRow("a range without labels in it")
         << declaring({{97, 99}}, {{1.0, "Yes"}}) << "|"
         << "X: the missing values from 97 to 99 are left out: a field carries single codes";
+    QTest::newRow("some codes of a range have labels")
+        << declaring({{97, 99}}, {{97.0, "Does not know"}, {99.0, "Does not answer"}, {100.0, "Hundred"}})
+        << "97|99"
+        << "X: the missing values from 97 to 99" + rest;
+    QTest::newRow("some codes of a range open upwards have labels")
+        << declaring({{97, kInfinite}}, {{1.0, "Yes"}, {98.0, "Does not know"}}) << "98|"
+        << "X: the missing values from 97 up" + rest;
+    QTest::newRow("some codes of a range open downwards have labels")
+        << declaring({{-kInfinite, 0}}, {{-5.0, "Refused"}, {1.0, "Yes"}}) << "-5|"
+        << "X: the missing values up to 0" + rest;
+    QTest::newRow("a range of which some have labels, and one code")
+        << declaring({{97, 98}, {5, 5}}, {{1.0, "Yes"}, {97.0, "Refused"}}) << "97|5"
+        << "X: the missing values from 97 to 98" + rest;
     QTest::newRow("a range below zero")
         << declaring({{-5, -1}}) << "|"
         << "X: the missing values from -5 to -1 are left out: a field carries single codes";

@@ -151,6 +151,23 @@ private slots:
             QStringList{"P1_X: E has a variable P1 already, with another alias, label or group"});
     }
 
+    void aVariableWithoutANameIsTold()
+    {
+        TDmEntity entity;
+        entity.setName("E");
+        VariableMerge merge(entity, OnClash::Skip);
+        merge.add(fields("_1_A:a _A_1:b P1_:c"));
+        QCOMPARE(shown(entity), QString(":a(99) _A_1:b(99) P1_:c(99)"));
+        const QString reason(
+            ": gives a variable without a name, because it begins with \"_\" and a digit; name "
+            "the variable in the dictionary");
+        QCOMPARE(sentences(merge.nameless()), QStringList("_1_A" + reason));
+        // What is left out gives none.
+        merge.add(fields("_2_B:x"));
+        QCOMPARE(merge.clashes().size(), 1);
+        QCOMPARE(sentences(merge.nameless()), QStringList("_1_A" + reason));
+    }
+
     void aNameWithPlaceholdersStaysAsItIs()
     {
         TDmEntity entity;
