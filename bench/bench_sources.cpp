@@ -84,12 +84,15 @@ void writeSav(const QString &name, int records)
         give("the file cannot be written: is there a gigabyte of room?");
 }
 
+int ignoreVariable(int, readstat_variable_t *, const char *, void *) { return READSTAT_HANDLER_OK; }
 int ignoreValue(int, readstat_variable_t *, readstat_value_t, void *) { return READSTAT_HANDLER_OK; }
 
 /// All values, of which nothing is made.
 void readValues(const QString &name)
 {
     readstat_parser_t *parser = readstat_parser_init();
+    // Without the former, values come with variables that are not there.
+    readstat_set_variable_handler(parser, ignoreVariable);
     readstat_set_value_handler(parser, ignoreValue);
     const readstat_error_t fault = readstat_parse_sav(parser, QFile::encodeName(name).constData(), nullptr);
     readstat_parser_free(parser);
