@@ -28,8 +28,11 @@ QString quoted(const QStringList &codes)
 
 bool CategoriesText::isCarried(const QString &code)
 {
-    return !code.isEmpty()
-        && std::none_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace() || isBreak(c); });
+    // The blank of no width is dropped on the way when it stands first, as if it were a file's byte-order
+    // mark.
+    return !code.isEmpty() && std::none_of(code.cbegin(), code.cend(), [](QChar c) {
+        return c.isSpace() || isBreak(c) || c == QChar::ByteOrderMark;
+    });
 }
 
 void CategoriesText::add(const QString &code, const QString &label)

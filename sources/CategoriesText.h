@@ -12,7 +12,8 @@ class CategoriesText {
     Q_DECLARE_TR_FUNCTIONS(tessel::sources::CategoriesText)
 
 public:
-    /// Whether a category can have the code \a code: it is neither empty nor holds anything blank.
+    /// Whether a category can have the code \a code: it is neither empty nor holds anything blank, a
+    /// blank of no width (U+FEFF) included.
     static bool isCarried(const QString &code);
 
     /// Adds a category. Tabs and line ends in \a label become blanks; an empty one leaves the code alone.

@@ -1,6 +1,7 @@
 #include "sources/CsvColumn.h"
 
 #include "model/TDmSourceField.h"
+#include "sources/CategoriesText.h"
 #include "sources/CsvNumber.h"
 
 #include <QLocale>
@@ -18,11 +19,6 @@ constexpr unsigned bitOf(Kind kind) { return 1U << unsigned(kind); }
 
 constexpr unsigned kWhole = bitOf(Kind::Whole);
 constexpr unsigned kAnyWhole = kWhole | bitOf(Kind::Long);
-
-bool hasBlank(const QString &code)
-{
-    return std::any_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace(); });
-}
 
 /// A code with its place among others: numbers by their value, texts behind them. Digits with a zero before
 /// them are no number but stand among the numbers all the same: "09" before "10".
@@ -113,7 +109,7 @@ void CsvColumn::giveCategories(TDmSourceField &field, QStringList &remarks) cons
         return;
     std::vector<Code> codes;
     for (const QString &value : values) {
-        if (!hasBlank(value))
+        if (CategoriesText::isCarried(value))
             codes.emplace_back(value);
     }
     std::sort(codes.begin(), codes.end());

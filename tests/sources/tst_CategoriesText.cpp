@@ -61,6 +61,8 @@ private slots:
         QTest::newRow("a tab inside") << "a\tb" << false;
         QTest::newRow("a blank that does not break") << QStringLiteral("a\u00a0b") << false;
         QTest::newRow("a line end") << "a\n" << false;
+        QTest::newRow("a blank of no width, which would be dropped as a byte-order mark")
+            << QStringLiteral("\ufeff") << false;
     }
 
     void isCarried()

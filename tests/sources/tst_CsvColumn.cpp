@@ -66,6 +66,8 @@ private slots:
             QStringLiteral("STRING 3 0 .. [A\u00f1o A\u00f1o]"));
         row("one value with a blank", {"New York", "Lima"},
             "STRING 8 0 .. [Lima Lima] {1 value holds blanks and is no category: a code cannot hold them.}");
+        row("a blank of no width is a blank", {QStringLiteral("\ufeff"), "Lima"},
+            "STRING 4 0 .. [Lima Lima] {1 value holds blanks and is no category: a code cannot hold them.}");
         row("several values with blanks of all kinds", {"a b", "a\tb", "a\nb", QStringLiteral("a\u00a0b")},
             "STRING 3 0 .. [] {4 values hold blanks and are no categories: a code cannot hold them.}");
         row("no value", {}, "STRING 0 0 .. [] {No value was found; the type STRING is a guess.}");
