@@ -125,11 +125,7 @@ private:
         }
         if (replacesInput && before == after)
             return Clean;
-        if (const auto problem = documents::writeFile(target, after)) {
-            printProblem(target, *problem);
-            return Failure;
-        }
-        return Clean;
+        return writeOutput(target, after);
     }
 
     QString file;

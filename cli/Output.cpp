@@ -1,5 +1,7 @@
 #include "cli/Output.h"
 
+#include "cli/Program.h"
+
 #include <QCoreApplication>
 
 #include <cerrno>
@@ -60,6 +62,15 @@ void printProblem(const QString &file, const documents::FileProblem &problem)
 void printAbout(const QString &file, const QString &message)
 {
     write(stderr, shownName(file).toLatin1() + ": " + message.toUtf8() + '\n');
+}
+
+int writeOutput(const QString &name, const QByteArray &bytes)
+{
+    if (const auto problem = documents::writeFile(name, bytes)) {
+        printProblem(name, *problem);
+        return Failure;
+    }
+    return Clean;
 }
 
 void printLosses(const QString &file, const QVector<documents::Loss> &losses)

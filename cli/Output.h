@@ -36,6 +36,10 @@ QString shownName(const QString &file);
 /// where they can be that. A text with other characters than bytes is given back as it is.
 QString nameText(const QString &bytes);
 
+/// Writes \a bytes to the file \a name, at once or not at all, and returns the ExitStatus of that; what is
+/// wrong goes to standard error.
+int writeOutput(const QString &name, const QByteArray &bytes);
+
 /// Writes "FILE: PATH (PLACE): what becomes of the value" to standard error for each of \a losses.
 void printLosses(const QString &file, const QVector<documents::Loss> &losses);
 

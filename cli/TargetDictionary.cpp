@@ -165,11 +165,7 @@ int TargetDictionary::write(const QString &output)
     }
     if (replacesSource && text == bytes)
         return Clean;
-    if (const auto problem = documents::writeFile(output, text)) {
-        printProblem(output, *problem);
-        return Failure;
-    }
-    return Clean;
+    return writeOutput(output, text);
 }
 
 } // namespace tessel::cli
