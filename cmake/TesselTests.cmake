@@ -1,9 +1,13 @@
 # tessel_add_test_program(<name> [SOURCES ...] [LIBRARIES ...] [DEFINITIONS ...])
-# One test program from <name>.cpp, with the three libraries, Qt Test and the tests' own support library.
+# One test program from <name>.cpp, with the three libraries, Qt Test and the tests' own support library. Only <name>.cpp
+# may need the meta-object compiler, which is called directly: CMake's own search for what needs it takes longer, for
+# hundreds of programs, than compiling some of them.
 function(tessel_add_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
-    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+    set(meta ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
+    qt5_generate_moc(${name}.cpp ${meta})
+    add_executable(${name} ${name}.cpp ${meta} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
     target_link_libraries(${name} PRIVATE
         test_support
         Business_Tessel
@@ -14,6 +18,26 @@ function(tessel_add_test_program name)
     )
     target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
     target_precompile_headers(${name} REUSE_FROM test_support)
+endfunction()
+
+# tessel_add_fixtures(<name> [SOURCES ...] [MOC ...] [LIBRARIES ...] [DEFINITIONS ...])
+# What several test programs share, compiled once. MOC names the headers with classes for the meta-object compiler, each
+# of which is compiled by itself: a program links those that it uses, and what the others call alike is no matter.
+function(tessel_add_fixtures name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;MOC;LIBRARIES;DEFINITIONS" ${ARGN})
+    qt5_wrap_cpp(meta ${ARG_MOC})
+    add_library(${name} STATIC ${ARG_SOURCES} ${ARG_MOC} ${meta})
+    target_link_libraries(${name} PUBLIC test_support ${ARG_LIBRARIES} PRIVATE tessel_warnings)
+    target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
+    target_precompile_headers(${name} REUSE_FROM test_support)
+endfunction()
+
+# tessel_add_test_resources(<name> <qrc>)
+# Resources that programs compile in; here the tests link what is made once. Objects, because nothing calls them.
+function(tessel_add_test_resources name qrc)
+    add_library(${name} OBJECT ${qrc})
+    set_target_properties(${name} PROPERTIES AUTORCC ON)
+    target_link_libraries(${name} PRIVATE Qt5::Core)
 endfunction()
 
 # tessel_add_test(<name> ...)
