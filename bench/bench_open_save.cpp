@@ -1,6 +1,6 @@
 // How long it takes, and how much memory, to open and save dictionaries: the programs' way as shares of the
-// way through Qt's JSON objects, and of two parsers that put the same documents into plain structs. Memory is
-// the peak of a process that does one thing.
+// way through Qt's JSON objects, and of two parsers that put the same files into plain structs. All of them
+// begin with the file, which the system has at hand. Memory is the peak of a process that does one thing.
 
 #include "bench/GeneratedDictionary.h"
 #include "bench/Measure.h"
@@ -33,24 +33,24 @@ namespace bench = tessel::bench;
 struct Document {
     std::string title;
     int variables = 0;
-    QByteArray text;
+    QString file;
 };
 
-std::unique_ptr<TDmEntity> openLongWay(const QByteArray &text)
+std::unique_ptr<TDmEntity> openLongWay(const QString &file)
 {
-    return docs::readDictionary(*docs::parseObject(text).result);
+    return docs::readDictionary(*docs::readObject(file).result);
 }
 
-std::unique_ptr<TDmEntity> openQuickly(const QByteArray &text)
+std::unique_ptr<TDmEntity> openQuickly(const QString &file)
 {
-    return std::move(docs::openDocument(text).result->dictionary);
+    return std::move(docs::openFile(file).result->dictionary);
 }
 
 /// What is measured of each document.
 struct Way {
     const char *name;
     void (*measure)(benchmark::State &state, const Document &document);
-    void (*once)(const QByteArray &text); ///< For the peak of memory; null for what only the time matters of.
+    void (*once)(const QString &file); ///< For the peak of memory; null for what only the time matters of.
 };
 
 template<typename Work>
@@ -61,47 +61,45 @@ void timed(benchmark::State &state, Work &&work)
 
 const Way kWays[] = {
     {"open, long way",
-        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openLongWay(d.text); }); },
-        [](const QByteArray &text) { benchmark::DoNotOptimize(openLongWay(text).release()); }},
+        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openLongWay(d.file); }); },
+        [](const QString &file) { benchmark::DoNotOptimize(openLongWay(file).release()); }},
     {"open",
-        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openQuickly(d.text); }); },
-        [](const QByteArray &text) { benchmark::DoNotOptimize(openQuickly(text).release()); }},
+        [](benchmark::State &state, const Document &d) { timed(state, [&] { return openQuickly(d.file); }); },
+        [](const QString &file) { benchmark::DoNotOptimize(openQuickly(file).release()); }},
     {"save, long way",
         [](benchmark::State &state, const Document &d) {
-            const auto root = openQuickly(d.text);
+            const auto root = openQuickly(d.file);
             timed(state, [&] { return docs::dictionaryTextOfLibrary(*root); });
         },
         nullptr},
     {"save",
         [](benchmark::State &state, const Document &d) {
-            const auto root = openQuickly(d.text);
+            const auto root = openQuickly(d.file);
             timed(state, [&] { return docs::dictionaryText(*root); });
         },
         nullptr},
     {"nlohmann",
         [](benchmark::State &state, const Document &d) {
-            timed(state, [&] { return bench::plainByNlohmann(d.text); });
+            timed(state, [&] { return bench::plainByNlohmann(*docs::readFile(d.file).result); });
         },
-        [](const QByteArray &text) {
+        [](const QString &file) {
+            const QByteArray text = *docs::readFile(file).result;
             benchmark::DoNotOptimize(new bench::PlainEntity(bench::plainByNlohmann(text)));
         }},
     {"simdjson",
         [](benchmark::State &state, const Document &d) {
-            timed(state, [&] { return bench::plainBySimdjson(d.text); });
+            timed(state, [&] { return bench::plainBySimdjson(*docs::readFile(d.file).result); });
         },
-        [](const QByteArray &text) {
+        [](const QString &file) {
+            const QByteArray text = *docs::readFile(file).result;
             benchmark::DoNotOptimize(new bench::PlainEntity(bench::plainBySimdjson(text)));
         }},
-    {"text alone", nullptr, [](const QByteArray &) {}},
 };
 
 /// Opens the file \a name the way numbered \a way and prints the peak of the process's memory in KiB.
 int printPeak(const char *way, const char *name)
 {
-    const docs::Outcome<QByteArray> text = docs::readFile(QString::fromLocal8Bit(name));
-    if (!text.result)
-        return 1;
-    kWays[QByteArray(way).toInt()].once(*text.result);
+    kWays[QByteArray(way).toInt()].once(QString::fromLocal8Bit(name));
     // Not getrusage(): its peak goes on from that of the process that started this one.
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))
@@ -157,17 +155,11 @@ void printTimes(const std::vector<Document> &documents, const std::map<std::stri
 
 void printPeaks(const char *program, const std::vector<Document> &documents)
 {
-    const QTemporaryDir folder;
     for (const Document &document : documents) {
-        const QString file = folder.filePath(QStringLiteral("document.json"));
-        QFile out(file);
-        if (!out.open(QIODevice::WriteOnly) || out.write(document.text) != document.text.size())
-            return;
-        out.close();
         std::map<std::string, double> peaks;
         for (std::size_t way = 0; way < std::size(kWays); ++way) {
             if (kWays[way].once)
-                peaks[kWays[way].name] = peakOf(program, int(way), file);
+                peaks[kWays[way].name] = peakOf(program, int(way), document.file);
         }
         for (const char *peer : {"open, long way", "nlohmann", "simdjson"}) {
             bench::printRow("peak of memory, open / " + std::string(peer) + ": " + document.title,
@@ -185,14 +177,19 @@ int main(int argc, char **argv)
     // What a round frees stays with the process, as in the other benchmarks of documents.
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    const QTemporaryDir folder;
     std::vector<Document> documents;
+    const auto add = [&](int variables, const char *form, const QByteArray &text) {
+        const std::string title = std::to_string(variables) + form;
+        documents.push_back({title, variables, folder.filePath(QString::fromStdString(title))});
+        return !docs::writeFile(documents.back().file, text);
+    };
     for (int variables : {1000, 10000, 100000}) {
         const QByteArray compact = bench::generatedDictionary(variables);
         const std::unique_ptr<TDmEntity> root = docs::readQuickly(compact);
-        if (!root)
+        if (!root || !add(variables, " compact", compact)
+            || !add(variables, " normal", docs::dictionaryText(*root)))
             return 1;
-        documents.push_back({std::to_string(variables) + " compact", variables, compact});
-        documents.push_back({std::to_string(variables) + " normal", variables, docs::dictionaryText(*root)});
     }
     for (const Document &document : documents) {
         for (const Way &way : kWays) {

@@ -1,5 +1,6 @@
 #include "documents/DocumentFile.h"
 
+#include "documents/BlankSieve.h"
 #include "documents/ParseFault.h"
 
 #include <QCoreApplication>
@@ -18,12 +19,6 @@ namespace {
 constexpr qint64 kLargestFile = 1024 * 1024 * 1024;
 
 QString tr(const char *text) { return QCoreApplication::translate("tessel::documents", text); }
-
-template<typename Result>
-Outcome<Result> failed(const QString &message)
-{
-    return {std::nullopt, {message}};
-}
 
 Outcome<QJsonObject> failedAt(const QByteArray &bytes, int offset, const QString &message)
 {
@@ -52,32 +47,54 @@ bool startsAsUtf16(const QByteArray &bytes)
     return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
 }
 
+constexpr qint64 kPiece = 1024 * 1024;
+
+/// Hands the bytes of the file \a name to \a take, in pieces of at most \a largest bytes and a few.
+template<typename Take>
+std::optional<FileProblem> readPieces(const QString &name, qint64 largest, Take &&take)
+{
+    QFile file(name);
+    if (name != QLatin1String("-") && QFileInfo(name).isDir())
+        return FileProblem{tr("cannot be read: it is a folder; name a file")};
+    const bool opened = name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    if (!opened)
+        return FileProblem{tr("cannot be read: %1").arg(file.errorString())};
+    qint64 total = 0;
+    while (true) {
+        // What is left free behind the bytes spares readers that look at whole blocks a copy.
+        constexpr qint64 spare = 64;
+        const QByteArray piece = file.read(qBound(kPiece, file.bytesAvailable(), largest) + spare);
+        if (piece.isEmpty())
+            break;
+        total += piece.size();
+        if (total > kLargestFile)
+            return FileProblem{tr("is larger than 1 GiB; expected a smaller document")};
+        take(piece);
+    }
+    if (file.error() != QFileDevice::NoError)
+        return FileProblem{tr("cannot be read: %1").arg(file.errorString())};
+    return std::nullopt;
+}
+
 } // namespace
 
 Outcome<QByteArray> readFile(const QString &name)
 {
-    QFile file(name);
-    if (name != QLatin1String("-") && QFileInfo(name).isDir())
-        return failed<QByteArray>(tr("cannot be read: it is a folder; name a file"));
-    const bool opened = name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
-                                                   : file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    if (!opened)
-        return failed<QByteArray>(tr("cannot be read: %1").arg(file.errorString()));
     QByteArray bytes;
-    while (true) {
-        constexpr qint64 piece = 1024 * 1024;
-        // What is left free behind the bytes spares readers that look at whole blocks a copy.
-        constexpr qint64 spare = 64;
-        const QByteArray more = file.read(qMax(piece, qMin(file.bytesAvailable(), kLargestFile)) + spare);
-        if (more.isEmpty())
-            break;
-        if (bytes.size() + qint64(more.size()) > kLargestFile)
-            return failed<QByteArray>(tr("is larger than 1 GiB; expected a smaller document"));
-        bytes += more;
-    }
-    if (file.error() != QFileDevice::NoError)
-        return failed<QByteArray>(tr("cannot be read: %1").arg(file.errorString()));
+    if (auto problem = readPieces(name, kLargestFile, [&](const QByteArray &piece) { bytes += piece; }))
+        return {std::nullopt, *problem};
     return {bytes, {}};
+}
+
+Outcome<QByteArray> readFileWithoutBlanks(const QString &name)
+{
+    QByteArray kept;
+    BlankSieve sieve;
+    const auto sift = [&](const QByteArray &piece) { sieve.sift(piece.constData(), piece.size(), kept); };
+    if (auto problem = readPieces(name, kPiece, sift))
+        return {std::nullopt, *problem};
+    return {kept, {}};
 }
 
 Outcome<QJsonObject> parseObject(const QByteArray &bytes)

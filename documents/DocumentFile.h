@@ -27,6 +27,11 @@ struct Outcome {
 /// an endless one (a device, a pipe) ends.
 Outcome<QByteArray> readFile(const QString &name);
 
+/// The bytes of the file \a name without the blanks between the tokens of the JSON text that they are taken
+/// for, and with the same meaning: in normal form blanks are half of a document. The problems are those of
+/// readFile().
+Outcome<QByteArray> readFileWithoutBlanks(const QString &name);
+
 /// The object that \a bytes hold. Anything but one JSON object in UTF-8 is a problem with its place.
 Outcome<QJsonObject> parseObject(const QByteArray &bytes);
 

@@ -4,29 +4,59 @@
 #include "documents/QuickReader.h"
 #include "documents/QuickWriter.h"
 
+#include <QFileInfo>
+
 namespace tessel::documents {
+
+namespace {
+
+Outcome<OpenedDocument> openThroughObject(const QByteArray &bytes)
+{
+    const Outcome<QJsonObject> parsed = parseObject(bytes);
+    if (!parsed.result)
+        return {std::nullopt, parsed.problem};
+    OpenedDocument opened;
+    if (kindOf(*parsed.result) == DocumentKind::Run)
+        opened.run = readRun(*parsed.result);
+    else
+        opened.dictionary = readDictionary(*parsed.result);
+    return {std::move(opened), {}};
+}
+
+/// Nothing for what is no plain dictionary.
+std::optional<OpenedDocument> openQuickly(const QByteArray &bytes)
+{
+    std::unique_ptr<TDmEntity> root = readQuickly(bytes);
+    if (!root)
+        return std::nullopt;
+    return OpenedDocument{std::move(root), nullptr, true};
+}
+
+} // namespace
 
 Outcome<OpenedDocument> openDocument(const QByteArray &bytes)
 {
-    OpenedDocument opened;
-    opened.dictionary = readQuickly(bytes);
-    opened.isPlain = opened.dictionary != nullptr;
-    if (!opened.isPlain) {
-        const Outcome<QJsonObject> parsed = parseObject(bytes);
-        if (!parsed.result)
-            return {std::nullopt, parsed.problem};
-        if (kindOf(*parsed.result) == DocumentKind::Run)
-            opened.run = readRun(*parsed.result);
-        else
-            opened.dictionary = readDictionary(*parsed.result);
-    }
-    return {std::move(opened), {}};
+    if (std::optional<OpenedDocument> plain = openQuickly(bytes))
+        return {std::move(plain), {}};
+    return openThroughObject(bytes);
 }
 
 Outcome<OpenedDocument> openFile(const QString &name)
 {
+    // Standard input, a pipe or a device can be read only once.
+    const bool canBeReadAgain = name != QLatin1String("-") && QFileInfo(name).isFile();
+    if (canBeReadAgain) {
+        const Outcome<QByteArray> read = readFileWithoutBlanks(name);
+        if (!read.result)
+            return {std::nullopt, read.problem};
+        if (std::optional<OpenedDocument> plain = openQuickly(*read.result))
+            return {std::move(plain), {}};
+    }
+    // With its blanks, for the place of a fault.
     const Outcome<QByteArray> read = readFile(name);
-    return read.result ? openDocument(*read.result) : Outcome<OpenedDocument>{std::nullopt, read.problem};
+    if (!read.result)
+        return {std::nullopt, read.problem};
+    return canBeReadAgain ? openThroughObject(*read.result) : openDocument(*read.result);
 }
 
 bool isKeptAsItIs(const QByteArray &bytes)

@@ -34,10 +34,14 @@ QString told(const FileProblem &problem)
     return QStringLiteral("%1:%2 %3").arg(problem.line).arg(problem.column).arg(problem.message);
 }
 
-/// What readFile says of \a name; "read" when it has no complaint.
+/// What readFile and readFileWithoutBlanks say of \a name; "read" when it has no complaint.
 QString readingOf(const QString &name)
 {
     const Outcome<QByteArray> outcome = readFile(name);
+    const Outcome<QByteArray> sifted = readFileWithoutBlanks(name);
+    if (bool(outcome.result) != bool(sifted.result) || told(outcome.problem) != told(sifted.problem))
+        return QStringLiteral("with blanks: %1; without: %2")
+            .arg(told(outcome.problem), told(sifted.problem));
     return outcome.result ? QStringLiteral("read") : told(outcome.problem);
 }
 
@@ -95,6 +99,22 @@ private slots:
         const Outcome<QByteArray> outcome = readFile(at("f.json"));
         QVERIFY2(outcome.result, qPrintable(outcome.problem.message));
         QCOMPARE(*outcome.result, bytes);
+    }
+
+    void blanksBetweenTokensCanBeLeftOut()
+    {
+        // Texts and blanks that lie across the pieces in which it is read.
+        QByteArray document = "[\n";
+        QByteArray kept = "[";
+        for (int i = 0; i < 3; ++i) {
+            const QByteArray text = '"' + QByteArray("a  b").repeated(200'000) + '"';
+            document += "    " + text + ',' + QByteArray(400'000, ' ') + "1\n    ,\n";
+            kept += text + ",1\n,";
+        }
+        put(at("f.json"), document + "2]\n");
+        const Outcome<QByteArray> outcome = readFileWithoutBlanks(at("f.json"));
+        QVERIFY2(outcome.result, qPrintable(outcome.problem.message));
+        QCOMPARE(*outcome.result, kept + "2]\n");
     }
 
     void aFileOfUnknownSizeIsRead()

@@ -3,8 +3,11 @@
 #include "documents/QuickWriter.h"
 #include "model/ConfigDb.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <sys/stat.h>
 
 using namespace tessel::documents;
 
@@ -12,6 +15,8 @@ class tst_OpenedDocument : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { folder.reset(new QTemporaryDir); }
+
     void aPlainDictionaryIsOpened()
     {
         const auto opened = openDocument("{\"name\": \"A\"}");
@@ -51,13 +56,51 @@ private slots:
 
     void aFileIsOpened()
     {
-        const QTemporaryDir folder;
-        const QString name = folder.filePath("a.json");
+        const QString name = file();
         const QString reason = openFile(name).problem.message;
         QCOMPARE(reason, readObject(name).problem.message);
         QVERIFY(!reason.isEmpty());
         QVERIFY(!writeFile(name, "{\"name\": \"A\"}"));
+        QVERIFY(openFile(name).result->isPlain);
         QCOMPARE(openFile(name).result->dictionary->getName(), QString("A"));
+    }
+
+    void blanksInTheTextsOfAFileStay()
+    {
+        QVERIFY(!writeFile(file(), " {\n  \"name\":  \"A  ,  B\"\n} \n"));
+        QCOMPARE(openFile(file()).result->dictionary->getName(), QString("A  ,  B"));
+    }
+
+    void anyOtherFileIsOpenedToo()
+    {
+        QVERIFY(!writeFile(file(), "{\n  \"name\": 5 }"));
+        const auto opened = openFile(file());
+        QCOMPARE(opened.result->dictionary->getName(), QString("5"));
+        QVERIFY(!opened.result->isPlain);
+        QVERIFY(!writeFile(file(), "{ \"type\": \"config\", \"database\": {\"name\": \"DB\"}}"));
+        QCOMPARE(openFile(file()).result->run->getDataBase()->getName(), QString("DB"));
+    }
+
+    void aProblemInAFileHasItsPlace()
+    {
+        const QByteArray bytes = "{\n  \"name\": \"A\"\n\n     \"label\": 1}";
+        QVERIFY(!writeFile(file(), bytes));
+        const FileProblem problem = openFile(file()).problem;
+        QCOMPARE(problem.message, parseObject(bytes).problem.message);
+        QCOMPARE(problem.line, 4);
+        QCOMPARE(problem.column, parseObject(bytes).problem.column);
+    }
+
+    void whatCanBeReadOnlyOnceIsOpened()
+    {
+        QCOMPARE(mkfifo(QFile::encodeName(file()).constData(), 0600), 0);
+        QProcess writer;
+        writer.start("sh", {"-c", "echo '{\"name\": \"A\"}' > \"$0\"", file()});
+        const auto opened = openFile(file());
+        QVERIFY(writer.waitForFinished());
+        QVERIFY2(opened.result, qPrintable(opened.problem.message));
+        QCOMPARE(opened.result->dictionary->getName(), QString("A"));
+        QVERIFY(opened.result->isPlain);
     }
 
     void normalFormIsKeptAsItIs_data()
@@ -85,6 +128,11 @@ private slots:
         QFETCH(bool, isKept);
         QCOMPARE(isKeptAsItIs(bytes), isKept);
     }
+
+private:
+    QString file() const { return folder->filePath("a.json"); }
+
+    QScopedPointer<QTemporaryDir> folder;
 };
 
 QTEST_APPLESS_MAIN(tst_OpenedDocument)

@@ -1,3 +1,4 @@
+#include "documents/BlankSieve.h"
 #include "documents/DocumentForm.h"
 #include "documents/Losses.h"
 #include "documents/OpenedDocument.h"
@@ -45,11 +46,23 @@ Outcome<QJsonObject> parsedByQt(const QByteArray &document)
     return parseObject(document);
 }
 
+/// Without blanks \a document is taken as it is with them.
+void requireSameWithoutBlanks(const QByteArray &document, const TDmEntity *quick)
+{
+    QByteArray kept;
+    BlankSieve().sift(document.constData(), document.size(), kept);
+    const std::unique_ptr<TDmEntity> sifted = readQuickly(kept);
+    require(bool(sifted) == bool(quick), document);
+    if (quick)
+        requireSame(contentOf(*sifted).toUtf8(), contentOf(*quick).toUtf8(), document);
+}
+
 /// Both ways make the same of \a document, whether or not the quick one takes it. True when it does.
 bool isTheSameByBothWays(const QByteArray &document)
 {
     const Outcome<QJsonObject> parsed = parsedByQt(document);
     const std::unique_ptr<TDmEntity> quick = readQuickly(document);
+    requireSameWithoutBlanks(document, quick.get());
     if (!parsed.result || kindOf(*parsed.result) == DocumentKind::Run) {
         require(!quick, document);
         return false;
