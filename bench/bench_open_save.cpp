@@ -142,13 +142,16 @@ void printTimes(const std::vector<Document> &documents, const std::map<std::stri
         row("open", "nlohmann", d, 0);
         row("open", "simdjson", d, 0);
     }
+    // Each size is there in both forms.
     for (const char *what : {"open", "save"}) {
-        for (const char *form : {" compact", " normal"}) {
-            const auto perVariable = [&](int variables) {
-                return seconds.at(what + (" " + std::to_string(variables)) + form) * 1e9 / variables;
+        for (std::size_t form : {0, 1}) {
+            const Document &small = documents.at(form);
+            const Document &large = documents.at(documents.size() - 2 + form);
+            const auto perVariable = [&](const Document &d) {
+                return of(seconds, what, d) * 1e9 / d.variables;
             };
-            bench::printRow(std::string(what) + " a variable, of 100,000 / of 1,000," + form,
-                perVariable(100'000), perVariable(1'000), "ns");
+            bench::printRow(std::string(what) + " a variable, " + large.title + " / " + small.title,
+                perVariable(large), perVariable(small), "ns");
         }
     }
 }

@@ -51,6 +51,13 @@ function(tessel_add_test name)
     )
 endfunction()
 
+# tessel_add_property_test(<name> ...)
+# A test program that makes up what it tries, from a fixed seed: every run tries the same. Arguments as above.
+function(tessel_add_property_test name)
+    tessel_add_test(${name} ${ARGN})
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "RC_PARAMS=seed=2026 max_success=200")
+endfunction()
+
 # tessel_add_window_test(<name> ...)
 # A test program with an X display of its own, on which the program xdotool moves the pointer. Arguments as above.
 function(tessel_add_window_test name)

@@ -1,5 +1,8 @@
 #include "documents/BlankSieve.h"
 
+#include <cstddef>
+#include <cstring>
+
 namespace tessel::documents {
 namespace {
 
@@ -8,6 +11,19 @@ constexpr bool isBlank(char c) { return c == ' ' || c == '\n' || c == '\r' || c 
 /// Signs behind which a value or a key begins, or nothing: blanks there part nothing.
 constexpr bool isOpening(char c) { return c == ',' || c == ':' || c == '{' || c == '['; }
 
+/// The first byte from \a at on that is no blank, or \a end. Indents are long: most are passed eight at a
+/// time.
+const char *passBlanks(const char *at, const char *end)
+{
+    constexpr char spaces[] = "        ";
+    constexpr std::ptrdiff_t width = sizeof spaces - 1;
+    while (end - at >= width && std::memcmp(at, spaces, width) == 0)
+        at += width;
+    while (at != end && isBlank(*at))
+        ++at;
+    return at;
+}
+
 } // namespace
 
 void BlankSieve::sift(const char *piece, int size, QByteArray &kept)
@@ -15,32 +31,32 @@ void BlankSieve::sift(const char *piece, int size, QByteArray &kept)
     const int before = kept.size();
     kept.resize(before + size);
     char *out = kept.data() + before;
+    const char *at = piece;
     const char *const end = piece + size;
-    for (const char *at = piece; at != end; ++at) {
-        const char c = *at;
+    while (true) {
+        if (place == Place::BehindBlank)
+            at = passBlanks(at, end);
+        if (at == end)
+            break;
         switch (place) {
         case Place::InText:
-            if (c == '"')
-                place = Place::BehindToken;
-            else if (c == '\\')
-                place = Place::InEscape;
+            while (at != end && *at != '"' && *at != '\\')
+                *out++ = *at++;
+            if (at == end)
+                continue;
+            place = *at == '"' ? Place::BehindToken : Place::InEscape;
             break;
         case Place::InEscape:
             place = Place::InText;
             break;
-        case Place::BehindBlank:
         case Place::BehindToken:
-            if (isBlank(c)) {
-                if (place == Place::BehindBlank)
-                    continue;
-                place = Place::BehindBlank;
-            } else if (c == '"') {
+        case Place::BehindBlank:
+            if (*at == '"')
                 place = Place::InText;
-            } else {
-                place = isOpening(c) ? Place::BehindBlank : Place::BehindToken;
-            }
+            else
+                place = isBlank(*at) || isOpening(*at) ? Place::BehindBlank : Place::BehindToken;
         }
-        *out++ = c;
+        *out++ = *at++;
     }
     kept.resize(int(out - kept.constData()));
 }

@@ -43,6 +43,7 @@ private slots:
         row("the first one behind a text stays", "[\"a\"   ]", "[\"a\" ]");
         row("the first one behind a closing sign stays", "{\"a\":{}  }  ", "{\"a\":{} } ");
         row("the first one of all stays", " \n{}", " {}");
+        row("more than eight", "[         \n                \t1]", "[1]");
         row("only the four that JSON knows", "{\v\f\xc2\xa0}", "{\v\f\xc2\xa0}");
         row("zero bytes stay", QByteArray("[\0 \0]", 5), QByteArray("[\0 \0]", 5));
         row("inside a text", "{ \"a  b\" : \" \t\n\"}", "{\"a  b\" :\" \t\n\"}");
