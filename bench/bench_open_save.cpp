@@ -191,8 +191,17 @@ int main(int argc, char **argv)
         const QByteArray compact = bench::generatedDictionary(variables);
         const std::unique_ptr<TDmEntity> root = docs::readQuickly(compact);
         if (!root || !add(variables, " compact", compact)
-            || !add(variables, " normal", docs::dictionaryText(*root)))
+            || !add(variables, " normal", docs::dictionaryText(*root))) {
+            std::fprintf(stderr, "the documents cannot be written to %s\n", qPrintable(folder.path()));
             return 1;
+        }
+    }
+    for (const Document &document : documents) {
+        if (docs::dictionaryText(*openQuickly(document.file))
+            != docs::dictionaryTextOfLibrary(*openLongWay(document.file))) {
+            std::fprintf(stderr, "the two ways differ: %s\n", document.title.c_str());
+            return 1;
+        }
     }
     for (const Document &document : documents) {
         for (const Way &way : kWays) {

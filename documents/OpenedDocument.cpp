@@ -4,6 +4,7 @@
 #include "documents/QuickReader.h"
 #include "documents/QuickWriter.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 namespace tessel::documents {
@@ -29,7 +30,16 @@ std::optional<OpenedDocument> openQuickly(const QByteArray &bytes)
     std::unique_ptr<TDmEntity> root = readQuickly(bytes);
     if (!root)
         return std::nullopt;
-    return OpenedDocument{std::move(root), nullptr, true};
+    return OpenedDocument{std::move(root), nullptr, true, std::nullopt};
+}
+
+/// Standard input, a pipe or a device can be read only once.
+bool canBeReadAgain(const QString &name) { return name != QLatin1String("-") && QFileInfo(name).isFile(); }
+
+bool isWrittenInFile(const OpenedDocument &opened, const QString &name)
+{
+    QFile file(name);
+    return opened.isPlain && file.open(QIODevice::ReadOnly) && isWrittenAs(*opened.dictionary, file);
 }
 
 } // namespace
@@ -43,9 +53,8 @@ Outcome<OpenedDocument> openDocument(const QByteArray &bytes)
 
 Outcome<OpenedDocument> openFile(const QString &name)
 {
-    // Standard input, a pipe or a device can be read only once.
-    const bool canBeReadAgain = name != QLatin1String("-") && QFileInfo(name).isFile();
-    if (canBeReadAgain) {
+    const bool isReadTwice = canBeReadAgain(name);
+    if (isReadTwice) {
         const Outcome<QByteArray> read = readFileWithoutBlanks(name);
         if (!read.result)
             return {std::nullopt, read.problem};
@@ -56,7 +65,25 @@ Outcome<OpenedDocument> openFile(const QString &name)
     const Outcome<QByteArray> read = readFile(name);
     if (!read.result)
         return {std::nullopt, read.problem};
-    return canBeReadAgain ? openThroughObject(*read.result) : openDocument(*read.result);
+    return isReadTwice ? openThroughObject(*read.result) : openDocument(*read.result);
+}
+
+Outcome<OpenedDocument> openToWriteAgain(const QString &name)
+{
+    Outcome<OpenedDocument> opened;
+    if (canBeReadAgain(name)) {
+        opened = openFile(name);
+        if (!opened.result || isWrittenInFile(*opened.result, name))
+            return opened;
+    }
+    Outcome<QByteArray> read = readFile(name);
+    if (!read.result)
+        return {std::nullopt, read.problem};
+    if (!opened.result)
+        opened = openDocument(*read.result);
+    if (opened.result)
+        opened.result->bytes = std::move(read.result);
+    return opened;
 }
 
 bool isKeptAsItIs(const QByteArray &bytes)

@@ -3,6 +3,9 @@
 #include "business/detail/VariableKeys.h"
 #include "documents/IndentedText.h"
 
+#include <QBuffer>
+
+#include <cstring>
 #include <exception>
 
 namespace tessel::documents {
@@ -59,17 +62,23 @@ std::optional<QByteArray> textQuickly(const TDmEntity &root)
     return text;
 }
 
+bool isWrittenAs(const TDmEntity &root, QIODevice &document)
+{
+    QByteArray there;
+    const auto compare = [&](const char *piece, std::size_t length) {
+        there.resize(int(length));
+        return document.read(there.data(), there.size()) == there.size()
+            && std::memcmp(there.constData(), piece, length) == 0;
+    };
+    return write(root, compare) && document.atEnd();
+}
+
 bool isWrittenAs(const TDmEntity &root, const QByteArray &bytes)
 {
-    int compared = 0;
-    const auto compare = [&](const char *piece, std::size_t length) {
-        if (length > std::size_t(bytes.size() - compared)
-            || std::memcmp(bytes.constData() + compared, piece, length) != 0)
-            return false;
-        compared += int(length);
-        return true;
-    };
-    return write(root, compare) && compared == bytes.size();
+    QBuffer document;
+    document.setData(bytes);
+    document.open(QIODevice::ReadOnly);
+    return isWrittenAs(root, document);
 }
 
 } // namespace tessel::documents

@@ -4,6 +4,7 @@
 #include "model/TDmEntity.h"
 
 #include <QByteArray>
+#include <QIODevice>
 
 #include <optional>
 
@@ -14,8 +15,11 @@ namespace tessel::documents {
 /// changes on that way: a number that is not finite, a text that begins with a mark of the byte order.
 std::optional<QByteArray> textQuickly(const TDmEntity &root);
 
-/// Whether \a root is written as \a bytes. Ends at the first difference and keeps no text. False, too, where
-/// textQuickly() gives nothing.
+/// Whether \a root is written as what is left to read of \a document, which is open. Ends at the first
+/// difference and keeps no text. False, too, where textQuickly() gives nothing.
+bool isWrittenAs(const TDmEntity &root, QIODevice &document);
+
+/// Whether \a root is written as \a bytes.
 bool isWrittenAs(const TDmEntity &root, const QByteArray &bytes);
 
 } // namespace tessel::documents

@@ -2,7 +2,6 @@
 
 #include "documents/DocumentForm.h"
 #include "documents/OpenedDocument.h"
-#include "documents/QuickWriter.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
 
@@ -92,19 +91,21 @@ std::optional<documents::FileProblem> DictionaryDocument::recover(const QString 
 
 std::optional<documents::FileProblem> DictionaryDocument::read(const QString &source, const QString &name)
 {
-    const documents::Outcome<QByteArray> bytes = documents::readFile(source);
-    if (!bytes.result)
-        return bytes.problem;
-    documents::Outcome<documents::OpenedDocument> opened = documents::openDocument(*bytes.result);
+    // Before the first byte is read: what is written meanwhile is a change.
+    const QFileInfo info(source);
+    const QDateTime time = info.lastModified();
+    const qint64 size = info.size();
+    documents::Outcome<documents::OpenedDocument> opened = documents::openToWriteAgain(source);
     if (!opened.result)
         return opened.problem;
     if (opened.result->run)
         return documents::FileProblem{
             tr("is a run configuration, not a dictionary; open it with Run, Open run"), 0, 0};
-    std::unique_ptr<TDmEntity> tree = std::move(opened.result->dictionary);
-    // What saving writes as it was has no losses to look for, and need not be kept for that.
-    const bool isKept = opened.result->isPlain && documents::isWrittenAs(*tree, *bytes.result);
-    replaceTree(tree.release(), name, isKept ? std::nullopt : bytes.result);
+    replaceTree(opened.result->dictionary.release(), name, opened.result->bytes);
+    if (name == source) {
+        fileTime = time;
+        fileSize = size;
+    }
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // A dictionary of any shape, with all the models that edit one open over it at once, and any edits through
-// them. A refused edit changes nothing and announces nothing; an accepted one is announced once; the
-// dictionary can be written and read at any time.
+// them: texts, drops, filters, sorting, rows asked for and taken out. A refused edit changes nothing and
+// announces nothing; an accepted one is announced once; no drop takes a variable away; the dictionary can be
+// written and read at any time.
 
 #include "business/models/DictionaryTreeModel.h"
 #include "business/models/EntityModel.h"
@@ -19,12 +20,14 @@
 #include "fuzz/support/BoxAnswerer.h"
 #include "fuzz/support/Desk.h"
 #include "fuzz/support/Expect.h"
+#include "fuzz/support/Gestures.h"
 #include "fuzz/support/Input.h"
 #include "model/MetadataVariables.h"
 #include "model/Range.h"
 #include "model/TDmEntity.h"
 #include "model/TDmVariable.h"
 #include "model/ValueLabelElement.h"
+#include "tests/business/models/LeftToNobody.h"
 
 #include <array>
 #include <memory>
@@ -142,12 +145,58 @@ QModelIndex anyCell(const QAbstractItemModel &model, Input &input)
     return cell;
 }
 
+/// Mostly one in which views edit.
+int roleFrom(Input &input)
+{
+    switch (input.number(0, 7)) {
+    case 0:
+    case 1:
+        return Qt::CheckStateRole;
+    case 2:
+        return input.anyInt();
+    default:
+        return Qt::EditRole;
+    }
+}
+
+int variablesBelow(const TDmEntity &entity)
+{
+    int count = entity.getVariables()->size();
+    for (const TDmEntity *child : qAsConst(*entity.getChildren()))
+        count += variablesBelow(*child);
+    return count;
+}
+
+void drop(TDmEntity &root, QAbstractItemModel &model, Input &input)
+{
+    const std::unique_ptr<QMimeData> data = payloadFrom(input);
+    const QModelIndex cell = anyCell(model, input);
+    const int before = variablesBelow(root);
+    // A variable that is overwritten belongs to nobody: meant so.
+    const tessel::test::LeftToNobody allowance;
+    model.dropMimeData(data.get(), Qt::CopyAction, input.number(-1, 3), input.number(-1, 1), cell);
+    setFaultPlace(model.metaObject()->className());
+    expect(variablesBelow(root) >= before, "a drop takes a variable away");
+}
+
+/// The models have rows put in and taken out by what they show alone.
+void resize(TDmEntity &root, QAbstractItemModel &model, Input &input)
+{
+    const QByteArray before = docs::dictionaryText(root);
+    const QModelIndex cell = anyCell(model, input);
+    model.insertRows(input.number(-1, 3), input.number(-1, 3), cell);
+    model.removeRows(input.number(-1, 3), input.number(-1, 3), cell);
+    setFaultPlace(model.metaObject()->className());
+    expectSame(QString::fromUtf8(docs::dictionaryText(root)), QString::fromUtf8(before),
+        "rows that are put in or taken out change the dictionary");
+}
+
 /// One edit, and what is promised of every edit.
 void edit(TDmEntity &root, QAbstractItemModel &model, Input &input)
 {
     const QModelIndex cell = anyCell(model, input);
     const QVariant value = input.value();
-    const int role = input.number(0, 3) == 0 ? int(Qt::CheckStateRole) : int(Qt::EditRole);
+    const int role = roleFrom(input);
     const QByteArray before = docs::dictionaryText(root);
     int announced = 0;
     bool isTaken = false;
@@ -192,10 +241,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     constexpr int most = 40;
     for (int i = 0; i < most && !input.isAtEnd(); ++i) {
         QAbstractItemModel &model = desk.any(input);
-        if (input.number(0, 4) == 0)
+        switch (input.number(0, 7)) {
+        case 0:
             model.sort(input.number(-1, 5), input.flag() ? Qt::AscendingOrder : Qt::DescendingOrder);
-        else
+            break;
+        case 1:
+            if (auto *proxy = qobject_cast<QSortFilterProxyModel *>(&model))
+                proxy->setFilterRegExp(patternFrom(input));
+            break;
+        case 2:
+            drop(*root, model, input);
+            break;
+        case 3:
+            resize(*root, model, input);
+            break;
+        default:
             edit(*root, model, input);
+        }
     }
     expectRoundTrip(*root);
     return 0;

@@ -1,17 +1,15 @@
 // Any calls in any order on one of the models and proxies, over whole objects, with null objects among them,
 // or over nothing. The list of models is that of the contract tests.
 
-#include "business/models/detail/FieldTransfer.h"
 #include "fuzz/support/BoxAnswerer.h"
 #include "fuzz/support/Desk.h"
 #include "fuzz/support/Expect.h"
+#include "fuzz/support/Gestures.h"
 #include "fuzz/support/Input.h"
 #include "tests/business/models/LeftToNobody.h"
 #include "tests/business/models/ModelSweep.h"
 
 #include <QItemSelectionModel>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace tessel::fuzz;
 namespace contract = tessel::test;
@@ -141,10 +139,7 @@ private:
 
     void drop()
     {
-        const QJsonObject field{{QStringLiteral("name"), QJsonValue::fromVariant(input.value())},
-            {QStringLiteral("type"), input.flag() ? QStringLiteral("LOOKUP") : QString()}};
-        const QString text = QString::fromUtf8(QJsonDocument(field).toJson());
-        const std::unique_ptr<QMimeData> data(tessel::detail::FieldTransfer::wrapped({text}));
+        const std::unique_ptr<QMimeData> data = payloadFrom(input);
         const Qt::DropAction action = input.flag() ? Qt::CopyAction : Qt::MoveAction;
         const contract::LeftToNobody allowance;
         model.dropMimeData(data.get(), action, input.anyInt(), input.number(-1, 1), anyIndex());
@@ -152,8 +147,7 @@ private:
 
     void filter()
     {
-        const auto syntax = QRegExp::PatternSyntax(input.number(QRegExp::RegExp, QRegExp::W3CXmlSchema11));
-        const QRegExp pattern(input.value().toString(), Qt::CaseInsensitive, syntax);
+        const QRegExp pattern = patternFrom(input);
         if (proxy)
             proxy->setFilterRegExp(pattern);
     }

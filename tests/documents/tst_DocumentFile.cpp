@@ -89,7 +89,7 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no byte") << QByteArray("");
         QTest::newRow("zero bytes and line ends of both kinds") << QByteArray("a\0\r\nb\n\xff", 7);
-        QTest::newRow("more than one piece") << QByteArray("0123456789abcde\n").repeated(3 * 65536 + 1);
+        QTest::newRow("more than a few pages") << QByteArray("0123456789abcde\n").repeated(3 * 65536 + 1);
     }
 
     void aFileIsReadByteForByte()
@@ -158,11 +158,8 @@ private slots:
 
     void anEndlessFileIsRefused()
     {
-        QElapsedTimer clock;
-        clock.start();
-        QCOMPARE(readingOf(QStringLiteral("/dev/zero")),
+        QCOMPARE(told(readFile(QStringLiteral("/dev/zero")).problem),
             QStringLiteral("0:0 is larger than 1 GiB; expected a smaller document"));
-        QVERIFY2(clock.elapsed() < 60000, qPrintable(QString::number(clock.elapsed())));
     }
 
     void aLargerFileThanAllowedIsRefused()
@@ -170,7 +167,7 @@ private slots:
         QFile file(at("huge.json"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(file.resize(qint64(1024) * 1024 * 1024 + 1));
-        QCOMPARE(readingOf(at("huge.json")),
+        QCOMPARE(told(readFileWithoutBlanks(at("huge.json")).problem),
             QStringLiteral("0:0 is larger than 1 GiB; expected a smaller document"));
     }
 

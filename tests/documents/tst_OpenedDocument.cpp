@@ -91,13 +91,59 @@ private slots:
         QCOMPARE(problem.column, parseObject(bytes).problem.column);
     }
 
+    void toBeWrittenAgainOnlyWhatChangesKeepsItsBytes_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("isPlain");
+        QTest::addColumn<bool>("hasBytes");
+        const QByteArray normal = textQuickly(TDmEntity()).value();
+        QTest::newRow("normal form") << normal << true << false;
+        QTest::newRow("a blank more at the end") << normal + ' ' << true << true;
+        QTest::newRow("a line end less") << normal.chopped(1) << true << true;
+        QTest::newRow("compact") << QByteArray("{\"name\":\"A\"}") << true << true;
+        QTest::newRow("a number for a text") << QByteArray("{\"name\": 5}") << false << true;
+    }
+
+    void toBeWrittenAgainOnlyWhatChangesKeepsItsBytes()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, isPlain);
+        QFETCH(bool, hasBytes);
+        QVERIFY(!writeFile(file(), bytes));
+        const auto opened = openToWriteAgain(file());
+        QCOMPARE(opened.result->isPlain, isPlain);
+        QCOMPARE(opened.result->bytes.has_value(), hasBytes);
+        QCOMPARE(opened.result->bytes.value_or(bytes), bytes);
+        QCOMPARE(opened.result->dictionary->getName(), openFile(file()).result->dictionary->getName());
+    }
+
+    void toBeWrittenAgainProblemsAreThoseOfOpening()
+    {
+        QCOMPARE(openToWriteAgain(file()).problem.message, openFile(file()).problem.message);
+        QVERIFY(!writeFile(file(), "{\n  \"name\": }"));
+        const auto opened = openToWriteAgain(file());
+        QVERIFY(!opened.result);
+        QCOMPARE(opened.problem.message, openFile(file()).problem.message);
+        QCOMPARE(opened.problem.line, 2);
+    }
+
+    void whatCanBeReadOnlyOnceIsOpened_data()
+    {
+        QTest::addColumn<bool>("again");
+        QTest::newRow("to be looked at") << false;
+        QTest::newRow("to be written again") << true;
+    }
+
     void whatCanBeReadOnlyOnceIsOpened()
     {
+        QFETCH(bool, again);
         QCOMPARE(mkfifo(QFile::encodeName(file()).constData(), 0600), 0);
         QProcess writer;
         writer.start("sh", {"-c", "echo '{\"name\": \"A\"}' > \"$0\"", file()});
-        const auto opened = openFile(file());
+        const auto opened = again ? openToWriteAgain(file()) : openFile(file());
         QVERIFY(writer.waitForFinished());
+        QCOMPARE(opened.result->bytes.value_or("none"),
+            again ? QByteArray("{\"name\": \"A\"}\n") : QByteArray("none"));
         QVERIFY2(opened.result, qPrintable(opened.problem.message));
         QCOMPARE(opened.result->dictionary->getName(), QString("A"));
         QVERIFY(opened.result->isPlain);

@@ -46,6 +46,12 @@ Outcome<QJsonObject> parsedByQt(const QByteArray &document)
     return parseObject(document);
 }
 
+Outcome<OpenedDocument> openedByPrograms(const QString &file)
+{
+    const LeftToNobody allowance;
+    return openFile(file);
+}
+
 /// Without blanks \a document is taken as it is with them.
 void requireSameWithoutBlanks(const QByteArray &document, const TDmEntity *quick)
 {
@@ -118,6 +124,31 @@ private slots:
         QVERIFY(isWrittenAs(*quick, *text));
         QVERIFY(isKeptAsItIs(*text));
         QVERIFY(lossesOf(*text, *parseObject(*text).result, *text).isEmpty());
+    }
+
+    /// The samples and what the fuzzers begin with.
+    void anyFileIsTheSameByBothWays_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *folder :
+            {TESSEL_SAMPLES, TESSEL_SEEDS "/document", TESSEL_SEEDS "/quick", TESSEL_SEEDS "/run"}) {
+            const QDir files(QString::fromLatin1(folder));
+            const QStringList names = files.entryList(QDir::Files);
+            QVERIFY2(!names.isEmpty(), folder);
+            for (const QString &name : names)
+                QTest::newRow(qPrintable(files.dirName() + '/' + name)) << files.filePath(name);
+        }
+    }
+
+    void anyFileIsTheSameByBothWays()
+    {
+        QFETCH(QString, file);
+        const QByteArray document = *readFile(file).result;
+        const Outcome<OpenedDocument> opened = openedByPrograms(file);
+        const bool isQuick = isTheSameByBothWays(document);
+        QCOMPARE(opened.result && opened.result->isPlain, isQuick);
+        if (isQuick)
+            QCOMPARE(contentOf(*opened.result->dictionary), contentOf(*readQuickly(document)));
     }
 
     void plainDocumentsAreTakenAndTheSame()

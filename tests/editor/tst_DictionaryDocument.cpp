@@ -179,6 +179,23 @@ private slots:
         QCOMPARE(contentOf(at("f.json")), lossyDictionaryOf("F"));
     }
 
+    void whatIsWrittenWhileOpeningIsAChange()
+    {
+        const QString name = folder->filePath(QStringLiteral("f.json"));
+        QVERIFY(QFile::copy(sample("census.json"), name));
+        DictionaryDocument document;
+        const auto connection = connect(&document, &DictionaryDocument::aboutToReset, this, [&name] {
+            QFile file(name);
+            QVERIFY(file.open(QIODevice::Append));
+            file.write("\n");
+        });
+        QCOMPARE(told(document.open(name)), QString("done"));
+        QVERIFY(document.hasFileChanged());
+        disconnect(connection);
+        QCOMPARE(told(document.open(name)), QString("done"));
+        QVERIFY(!document.hasFileChanged());
+    }
+
     void lossesAreThoseOfTheOpenedFile()
     {
         QVERIFY(put(at("lossy.json"), lossyDictionaryOf("F")));

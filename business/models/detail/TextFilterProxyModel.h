@@ -59,7 +59,7 @@ private:
     /// In column 1 the word around an at sign stands for the whole text.
     static QString sortText(const QModelIndex &index, const QVariant &value)
     {
-        const QString text = value.toString();
+        QString text = value.toString();
         if (index.column() != 1 || !text.contains(QLatin1Char('@')))
             return text;
         static const QRegularExpression token(QStringLiteral("[\\w\\.]*@[\\w\\.]*"));
