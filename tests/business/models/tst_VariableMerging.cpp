@@ -3,6 +3,7 @@
 #include "tests/business/models/ContextTranslator.h"
 #include "tests/business/models/VariableTable.h"
 
+#include <QRandomGenerator>
 #include <QSet>
 #include <QtTest>
 
@@ -72,6 +73,29 @@ private:
     QSet<TDmVariable *> all;
 };
 
+/// Two descriptions that differ in one text, the one at \a place, and have the same hash, made as the table
+/// of known variables makes it: by chance one of so many.
+QStringList twoOfOneHash(int place)
+{
+    // Numbers counted up would not do: checksums, of which the hash may be one, tell such apart.
+    QRandomGenerator random(1);
+    QHash<uint, QString> known;
+    for (int i = 0; i < 2'000'000; ++i) {
+        QStringList texts{
+            QStringLiteral("AGE"), QStringLiteral("EDAD"), QStringLiteral("Age"), QStringLiteral("PEOPLE")};
+        texts[place] += QString::number(random.generate64(), 36);
+        uint hash = 0;
+        for (const QString &text : qAsConst(texts))
+            hash = qHash(text, hash);
+        const QString description = texts.join(QLatin1Char('|'));
+        const QString other = known.value(hash);
+        if (!other.isEmpty())
+            return {other, description};
+        known.insert(hash, description);
+    }
+    return {};
+}
+
 const QString kAsked = QStringLiteral("AGE already exists.Overwrite?");
 
 } // namespace
@@ -95,6 +119,27 @@ private slots:
         QCOMPARE(changed.count() + inserted.count() + reset.count(), 0);
         QCOMPARE(ownMessages(catcher), QStringList());
         QVERIFY(merging.root->getVariables()->isEmpty());
+    }
+
+    void oneHashDoesNotMakeThemEqual_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::newRow("names differ") << 0;
+        QTest::newRow("aliases differ") << 1;
+        QTest::newRow("labels differ") << 2;
+        QTest::newRow("groups differ") << 3;
+    }
+
+    void oneHashDoesNotMakeThemEqual()
+    {
+        QFETCH(int, place);
+        const QStringList two = twoOfOneHash(place);
+        QCOMPARE(two.size(), 2);
+        Merging merging({two.first()}, {two.last()});
+        MessageBoxRobot robot({Ok});
+        merging.model.updateEntityVariables(&merging.fresh);
+        QVERIFY(robot.boxes().isEmpty() || robot.boxes().first().title != "Overwrite variable");
+        QCOMPARE(merging.order(), QString("0a"));
     }
 
     void equalAreNameAliasLabelAndGroupToTheLetter_data()
