@@ -44,6 +44,7 @@ private slots:
     void whatIsNotExactDeepInsideIsNotExactAbove();
     void listsLeaveOutNullPointersAndAreLeftOutWithoutItems();
     void clearedBufferIsWrittenAnew();
+    void keysFitWhereverTheBufferEnds();
 };
 
 void tst_JsonText::keysFollowOneAnother()
@@ -191,6 +192,24 @@ void tst_JsonText::clearedBufferIsWrittenAnew()
         out.text("k", QString(length, '\n'));
         out.close();
         QCOMPARE(bytesOf(buffer), QByteArray("{\"k\":\"" + QByteArray("\\u000a").repeated(length) + "\"}"));
+    }
+}
+
+void tst_JsonText::keysFitWhereverTheBufferEnds()
+{
+    // What is written beyond the end goes on there: the long text shows it at the latest.
+    const QString longText(1'000'000, 'y');
+    for (int shift = 0; shift < 16; ++shift) {
+        QByteArray expected = "{\"k\":\"" + QByteArray(shift, 'x') + '"';
+        const QByteArray bytes = written([&](JsonText &out) {
+            out.text("k", QString(shift, 'x'));
+            for (int i = 0; i < 1000; ++i) {
+                out.boolean("key", true);
+                expected += ",\"key\":true";
+            }
+            out.text("last", longText);
+        });
+        QVERIFY(bytes == expected + ",\"last\":\"" + longText.toUtf8() + "\"}");
     }
 }
 
