@@ -102,7 +102,7 @@ Told Tessel::run(const QList<QByteArray> &arguments) const
             const rlimit limit{rlim_t(largestFile), rlim_t(largestFile)};
             ::setrlimit(RLIMIT_FSIZE, &limit);
         }
-        if (isNobodys && !giveUpPrivileges())
+        if (obeysModes && !obeyModes())
             ::_exit(127);
         ::alarm(60);
         ::execv(TESSEL_PROGRAM, list.data());

@@ -40,7 +40,7 @@ public:
     QByteArray input; ///< Given to the program as standard input.
     QByteArray standardOutput; ///< When not empty: the file or device that is the program's standard output.
     QByteArray locale = "C"; ///< The value of LC_ALL.
-    bool isNobodys = false; ///< Whether the program runs without root's rights.
+    bool obeysModes = false; ///< Whether the modes of files bind the program, even root's.
     long largestFile = -1; ///< When not negative: no file may grow beyond as many bytes.
 
 private:

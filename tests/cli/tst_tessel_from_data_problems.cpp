@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(::chmod(tessel->path(".").constData(), 0555), 0);
         const auto restored = qScopeGuard([this] { ::chmod(tessel->path(".").constData(), 0755); });
         QCOMPARE(::chmod(tessel->path("d.json").constData(), 0644), 0);
-        tessel->isNobodys = true;
+        tessel->obeysModes = true;
         for (const QByteArray output : {"d.json", "new.json"}) {
             const Told told = tessel->run({"from-data", "t.sav", "--into", "d.json", "-o", output});
             QCOMPARE(told.all(),
