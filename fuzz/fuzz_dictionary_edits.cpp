@@ -159,24 +159,24 @@ int roleFrom(Input &input)
     }
 }
 
-int variablesBelow(const TDmEntity &entity)
+QList<TDmVariable *> variablesBelow(const TDmEntity &entity)
 {
-    int count = entity.getVariables()->size();
+    QList<TDmVariable *> all = *entity.getVariables();
     for (const TDmEntity *child : qAsConst(*entity.getChildren()))
-        count += variablesBelow(*child);
-    return count;
+        all += variablesBelow(*child);
+    return all;
 }
 
 void drop(TDmEntity &root, QAbstractItemModel &model, Input &input)
 {
     const std::unique_ptr<QMimeData> data = payloadFrom(input);
     const QModelIndex cell = anyCell(model, input);
-    const int before = variablesBelow(root);
-    // A variable that is overwritten belongs to nobody: meant so.
+    const int before = variablesBelow(root).size();
+    // What is not taken belongs to nobody: meant so.
     const tessel::test::LeftToNobody allowance;
     model.dropMimeData(data.get(), Qt::CopyAction, input.number(-1, 3), input.number(-1, 1), cell);
     setFaultPlace(model.metaObject()->className());
-    expect(variablesBelow(root) >= before, "a drop takes a variable away");
+    expect(variablesBelow(root).size() >= before, "a drop takes a variable away");
 }
 
 /// The models have rows put in and taken out by what they show alone.
@@ -228,16 +228,9 @@ void expectRoundTrip(TDmEntity &root)
     expectSame(QString::fromUtf8(second), QString::fromUtf8(first), "writing again changes the dictionary");
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void play(TDmEntity &root, Input &input)
 {
-    openDesk();
-    Input input(data, size);
-    const BoxAnswerer boxes(unsigned(input.anyInt()));
-    constexpr int levels = 3;
-    const std::unique_ptr<TDmEntity> root = entityFrom(input, 1, levels);
-    Desk desk(*root, input);
+    Desk desk(root, input);
     constexpr int most = 40;
     for (int i = 0; i < most && !input.isAtEnd(); ++i) {
         QAbstractItemModel &model = desk.any(input);
@@ -250,15 +243,34 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
                 proxy->setFilterRegExp(patternFrom(input));
             break;
         case 2:
-            drop(*root, model, input);
+            drop(root, model, input);
             break;
         case 3:
-            resize(*root, model, input);
+            resize(root, model, input);
             break;
         default:
-            edit(*root, model, input);
+            edit(root, model, input);
         }
     }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    openDesk();
+    Input input(data, size);
+    const BoxAnswerer boxes(unsigned(input.anyInt()));
+    constexpr int levels = 3;
+    const std::unique_ptr<TDmEntity> root = entityFrom(input, 1, levels);
+    const QList<TDmVariable *> first = variablesBelow(*root);
+    play(*root, input);
     expectRoundTrip(*root);
+    // What was overwritten belongs to nobody: meant so.
+    const QList<TDmVariable *> last = variablesBelow(*root);
+    for (TDmVariable *variable : first) {
+        if (!last.contains(variable))
+            delete variable;
+    }
     return 0;
 }
