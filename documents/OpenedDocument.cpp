@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 namespace tessel::documents {
-
 namespace {
 
 Outcome<OpenedDocument> openThroughObject(const QByteArray &bytes)

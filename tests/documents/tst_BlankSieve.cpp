@@ -69,6 +69,27 @@ private slots:
         QCOMPARE(kept, QByteArray("a[1]"));
     }
 
+    void theMeaningOfADocumentStays()
+    {
+        const bool holds = rc::check("blanks of any number between tokens are no matter", [] {
+            const auto blanks = [] {
+                return QByteArray::fromStdString(
+                    *rc::gen::container<std::string>(rc::gen::elementOf(std::string(" \n\r\t"))));
+            };
+            const auto tokens =
+                *rc::gen::container<std::vector<std::string>>(rc::gen::elementOf(std::vector<std::string>{
+                    "1", "-2.5e3", "true", "null", "\"a  , \\\" : b\"", "\"\\\\\"", "{}", "[]"}));
+            QByteArray text = blanks() + '[';
+            for (std::size_t i = 0; i < tokens.size(); ++i)
+                text += (i == 0 ? "" : ",") + blanks() + tokens[i].c_str() + blanks();
+            text += ']' + blanks();
+            const QJsonDocument known = QJsonDocument::fromJson(text);
+            RC_ASSERT(known.isArray());
+            RC_ASSERT(QJsonDocument::fromJson(sifted(text, text.size() / 2)) == known);
+        });
+        QVERIFY(holds);
+    }
+
     void theMeaningStays()
     {
         const bool holds = rc::check("sifted text is JSON when the text is, and means the same", [] {
